@@ -1,0 +1,61 @@
+#pragma once
+
+#include "veri_hatasi.h"
+
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QString>
+#include <QVariantList>
+
+// The data files of the program, by their system names.
+enum class Dosya { Genel, Ayniyat, HesapKod, Okul, Sirket };
+
+QString DosyaAdi(Dosya dosya);
+
+// One open connection to one data file, with our SQL functions registered.
+// Each screen or routine opens its own and lets it go when done.
+class Veritabani
+{
+public:
+    // Opens the file of the data folder, creating it with its tables and
+    // delivered rows when it does not exist yet.
+    Veritabani(const QString& klasor, Dosya dosya);
+    // Opens an existing file of ours by path (a monthly copy, a backup).
+    explicit Veritabani(const QString& yol);
+    ~Veritabani();
+    Veritabani(const Veritabani&) = delete;
+    Veritabani& operator=(const Veritabani&) = delete;
+
+    // Prepares, binds the values in order and runs; throws VeriHatasi.
+    QSqlQuery Sorgu(const QString& sql, const QVariantList& degerler = {});
+    // As Sorgu, for statements that change rows; answers the count changed.
+    int Calistir(const QString& sql, const QVariantList& degerler = {});
+
+    const QString& Yol() const { return m_yol; }
+    QSqlDatabase Baglanti() const;
+    // The driver's sqlite3 handle, for the backup API.
+    void* Tutamac() const;
+
+private:
+    void Ac(bool yeni);
+
+    QString m_yol;
+    QString m_ad;
+    Dosya m_dosya;
+};
+
+// Writes that belong together: BEGIN IMMEDIATE now, ROLLBACK unless Onayla
+// ran. A failure anywhere leaves the file as it was.
+class Islem
+{
+public:
+    explicit Islem(Veritabani& vt);
+    ~Islem();
+    Islem(const Islem&) = delete;
+    Islem& operator=(const Islem&) = delete;
+    void Onayla();
+
+private:
+    Veritabani& m_vt;
+    bool m_acik = true;
+};

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "sayfa.h"
+
+#include <QString>
+#include <stdexcept>
+
+class QPagedPaintDevice;
+class QPrinter;
+class QWidget;
+
+// A document that cannot reach its output. The message is the one the user
+// sees, with the critical icon.
+class YaziciHatasi : public std::runtime_error
+{
+public:
+    YaziciHatasi();
+    QString Mesaj() const;
+};
+
+// Where a finished document goes when Yazici::EndDoc hands it over.
+class Cikti
+{
+public:
+    virtual ~Cikti() = default;
+    // Asked before a document's first page: printing to a missing printer
+    // fails at once, as it always did.
+    virtual bool Hazir() const { return true; }
+    // Throws YaziciHatasi when the document cannot be written.
+    virtual void Yaz(const Belge& belge) = 0;
+};
+
+// Keeps the documents, for screens that show a form before printing it.
+class BellekCikti : public Cikti
+{
+public:
+    void Yaz(const Belge& belge) override;
+    QList<Belge> belgeler;
+};
+
+class PdfCikti : public Cikti
+{
+public:
+    explicit PdfCikti(const QString& dosya);
+    void Yaz(const Belge& belge) override;
+
+private:
+    QString m_dosya;
+};
+
+// A printer the caller has chosen, usually through QPrintDialog. Its own
+// margins stay: they are the printable area.
+class YaziciCikti : public Cikti
+{
+public:
+    explicit YaziciCikti(QPrinter& yazici);
+    bool Hazir() const override;
+    void Yaz(const Belge& belge) override;
+
+private:
+    QPrinter& m_yazici;
+};
+
+// The print preview dialog, modal; the user prints or saves a PDF from it.
+class OnizlemeCikti : public Cikti
+{
+public:
+    explicit OnizlemeCikti(QWidget* ebeveyn = nullptr);
+    void Yaz(const Belge& belge) override;
+
+private:
+    QWidget* m_ebeveyn;
+};
+
+// Draws the pages on A4, each in its own orientation. False when the device
+// cannot be opened or cannot start a page.
+bool BelgeCiz(QPagedPaintDevice& cihaz, const Belge& belge);

@@ -1,0 +1,91 @@
+#include "sayfa.h"
+
+#include <QFontDatabase>
+#include <QFontMetricsF>
+#include <QPageSize>
+#include <QPainter>
+#include <QPen>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Metric-compatible with Arial and complete for Turkish. Loaded from its
+// files so that fontconfig cannot swap in a look-alike with other widths.
+QString AileYukle()
+{
+    const QString klasor = u"/usr/share/fonts/truetype/liberation2/"_s;
+    QString aile;
+    for (const QString& dosya : {u"LiberationSans-Regular.ttf"_s, u"LiberationSans-Bold.ttf"_s}) {
+        const int no = QFontDatabase::addApplicationFont(klasor + dosya);
+        if (no >= 0 && aile.isEmpty())
+            aile = QFontDatabase::applicationFontFamilies(no).value(0);
+    }
+    return aile.isEmpty() ? u"Liberation Sans"_s : aile;
+}
+
+QPen Kalem(double kalinlik)
+{
+    return QPen(QBrush(Qt::black), kalinlik, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
+}
+
+}
+
+QSizeF Sayfa::KagitBoyu() const
+{
+    const QSizeF dikey = QPageSize(QPageSize::A4).size(QPageSize::Point) * 20;
+    return yon == QPageLayout::Landscape ? dikey.transposed() : dikey;
+}
+
+const SayfaYazisi* Sayfa::YaziNerede(double x, double y) const
+{
+    for (const SayfaYazisi& yazi : yazilar) {
+        if (qAbs(yazi.x - x) <= 0.5 && qAbs(yazi.y - y) <= 0.5)
+            return &yazi;
+    }
+    return nullptr;
+}
+
+QString Sayfa::MetinNerede(double x, double y) const
+{
+    const SayfaYazisi* yazi = YaziNerede(x, y);
+    return yazi ? yazi->metin : QString();
+}
+
+QFont YaziFontu(double punto, bool kalin)
+{
+    static const QString aile = AileYukle();
+    QFont font(aile);
+    font.setPixelSize(qMax(1, qRound(punto * 20)));
+    font.setBold(kalin);
+    // Printer text of the old kind: no kerning, outlines as designed.
+    font.setKerning(false);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+void SayfaCiz(QPainter& ressam, const Sayfa& sayfa)
+{
+    ressam.save();
+    ressam.setBrush(Qt::NoBrush);
+    for (const Cizgi& cizgi : sayfa.zemin.cizgiler) {
+        ressam.setPen(Kalem(cizgi.kalinlik));
+        ressam.drawLine(cizgi.konum);
+    }
+    for (const Kutu& kutu : sayfa.zemin.kutular) {
+        ressam.setPen(Kalem(kutu.kalinlik));
+        ressam.drawRect(kutu.alan);
+    }
+    ressam.setPen(Qt::black);
+    for (const Etiket& etiket : sayfa.zemin.etiketler) {
+        ressam.setFont(YaziFontu(etiket.punto, etiket.kalin));
+        ressam.drawText(etiket.alan, int(etiket.hiza) | Qt::TextWordWrap, etiket.metin);
+    }
+    for (const SayfaYazisi& yazi : sayfa.yazilar) {
+        const QFont font = YaziFontu(yazi.punto, yazi.kalin);
+        ressam.setFont(font);
+        ressam.setPen(yazi.renk);
+        ressam.drawText(QPointF(yazi.x, yazi.y + QFontMetricsF(font).ascent()), yazi.metin);
+    }
+    ressam.restore();
+}

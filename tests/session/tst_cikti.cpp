@@ -1,0 +1,201 @@
+#include "cikti.h"
+#include "sayfa_gorunumu.h"
+#include "yazici.h"
+
+#include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
+#include <QPrinter>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString turkce = u"Şişli Ağaç İğne Ünite"_s;
+
+// A portrait page with a form under the text, then a landscape one.
+Belge OrnekBelge()
+{
+    BellekCikti bellek;
+    Yazici p(&bellek);
+    Zemin zemin;
+    zemin.kutular.append({QRectF(0, 0, 8000, 1500), 30});
+    zemin.etiketler.append({QRectF(100, 100, 7800, 600), u"TAŞINIR İŞLEM FİŞİ"_s, 12, true,
+                            Qt::AlignHCenter | Qt::AlignTop});
+    p.ZeminCiz(zemin);
+    p.CurrentY = 2000;
+    p.Print({Tab(2), turkce});
+    p.Orientation = 2;
+    p.NewPage();
+    p.Print({u"Yatay sayfa"_s});
+    p.EndDoc();
+    return bellek.belgeler.first();
+}
+
+// Page sizes in points, in page order, from the PDF's media boxes.
+QList<QSizeF> SayfaBoylari(const QString& dosya)
+{
+    QFile pdf(dosya);
+    if (!pdf.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray icerik = pdf.readAll();
+    if (!icerik.startsWith("%PDF-"))
+        return {};
+    QList<QSizeF> boylar;
+    static const QRegularExpression kutu(u"/MediaBox \\[0 0 ([\\d.]+) ([\\d.]+)\\]"_s);
+    for (const QRegularExpressionMatch& m : kutu.globalMatch(QString::fromLatin1(icerik)))
+        boylar.append(QSizeF(qRound(m.captured(1).toDouble()), qRound(m.captured(2).toDouble())));
+    return boylar;
+}
+
+const QList<QSizeF> dikeyYatay{QSizeF(595, 842), QSizeF(842, 595)};
+
+}
+
+class TstCikti : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void pdf();
+    void pdfYazilamaz();
+    void yaziciCikti();
+    void onizleme();
+    void gorunumBoyu_data();
+    void gorunumBoyu();
+    void gorunumKaydirir();
+    void gorunumCizer();
+
+private:
+    QTemporaryDir m_klasor;
+};
+
+void TstCikti::pdf()
+{
+    const QString dosya = m_klasor.filePath(u"belge.pdf"_s);
+    PdfCikti cikti(dosya);
+    cikti.Yaz(OrnekBelge());
+    QCOMPARE(SayfaBoylari(dosya), dikeyYatay);
+
+    const QString pdftotext = QStandardPaths::findExecutable(u"pdftotext"_s);
+    if (pdftotext.isEmpty())
+        QSKIP("pdftotext is not installed");
+    QProcess surec;
+    surec.start(pdftotext, {u"-enc"_s, u"UTF-8"_s, dosya, u"-"_s});
+    QVERIFY(surec.waitForFinished());
+    const QString metin = QString::fromUtf8(surec.readAllStandardOutput());
+    QVERIFY2(metin.contains(turkce), qPrintable(metin));
+    QVERIFY(metin.contains(u"TAŞINIR İŞLEM FİŞİ"_s));
+    QVERIFY(metin.contains(u"Yatay sayfa"_s));
+}
+
+void TstCikti::pdfYazilamaz()
+{
+    PdfCikti cikti(m_klasor.filePath(u"olmayan/klasor/belge.pdf"_s));
+    QTest::ignoreMessage(QtWarningMsg, "QPainter::begin(): Returned false");
+    QVERIFY_THROWS_EXCEPTION(YaziciHatasi, cikti.Yaz(OrnekBelge()));
+}
+
+// The printer path, through a QPrinter that writes a file.
+void TstCikti::yaziciCikti()
+{
+    const QString dosya = m_klasor.filePath(u"yazici.pdf"_s);
+    QPrinter yazici(QPrinter::HighResolution);
+    yazici.setOutputFormat(QPrinter::PdfFormat);
+    yazici.setOutputFileName(dosya);
+    YaziciCikti cikti(yazici);
+    QVERIFY(cikti.Hazir());
+    cikti.Yaz(OrnekBelge());
+    QCOMPARE(SayfaBoylari(dosya), dikeyYatay);
+}
+
+void TstCikti::onizleme()
+{
+    int gosterilen = -1;
+    QTimer::singleShot(0, this, [&gosterilen] {
+        auto* pencere = qobject_cast<QPrintPreviewDialog*>(QApplication::activeModalWidget());
+        if (!pencere)
+            return;
+        gosterilen = pencere->findChild<QPrintPreviewWidget*>()->pageCount();
+        pencere->reject();
+    });
+    OnizlemeCikti(nullptr).Yaz(OrnekBelge());
+    QCOMPARE(gosterilen, 2);
+}
+
+void TstCikti::gorunumBoyu_data()
+{
+    QTest::addColumn<QPageLayout::Orientation>("yon");
+    QTest::addColumn<double>("yakinlik");
+    QTest::addColumn<double>("beklenenYakinlik");
+    QTest::addColumn<QSizeF>("mm");
+    QTest::newRow("dikey gercek boy") << QPageLayout::Portrait << 1.0 << 1.0 << QSizeF(210, 297);
+    QTest::newRow("yatay yarim") << QPageLayout::Landscape << 0.5 << 0.5 << QSizeF(297, 210);
+    QTest::newRow("sifir en kucuge") << QPageLayout::Portrait << 0.0 << 0.1 << QSizeF(210, 297);
+}
+
+void TstCikti::gorunumBoyu()
+{
+    QFETCH(QPageLayout::Orientation, yon);
+    QFETCH(double, yakinlik);
+    QFETCH(double, beklenenYakinlik);
+    QFETCH(QSizeF, mm);
+
+    SayfaGorunumu gorunum;
+    Sayfa sayfa;
+    sayfa.yon = yon;
+    gorunum.SayfaGoster(sayfa);
+    gorunum.YakinlikAyarla(yakinlik);
+    QCOMPARE(gorunum.Yakinlik(), beklenenYakinlik);
+
+    const QSize boy = gorunum.widget()->size();
+    const double en = mm.width() / 25.4 * gorunum.logicalDpiX() * beklenenYakinlik;
+    const double boyu = mm.height() / 25.4 * gorunum.logicalDpiY() * beklenenYakinlik;
+    QVERIFY2(qAbs(boy.width() - en) <= 1 && qAbs(boy.height() - boyu) <= 1,
+             qPrintable(u"%1x%2"_s.arg(boy.width()).arg(boy.height())));
+}
+
+void TstCikti::gorunumKaydirir()
+{
+    SayfaGorunumu gorunum;
+    gorunum.resize(300, 300);
+    gorunum.SayfaGoster(Sayfa());
+    gorunum.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&gorunum));
+
+    QScrollBar* dikey = gorunum.verticalScrollBar();
+    QVERIFY(dikey->maximum() > 0);
+    QVERIFY(gorunum.horizontalScrollBar()->maximum() > 0);
+    dikey->setValue(dikey->maximum());
+    QCOMPARE(gorunum.widget()->y(), -dikey->maximum());
+
+    // Small enough to fit, it needs no scrolling.
+    gorunum.YakinlikAyarla(0.1);
+    QCOMPARE(dikey->maximum(), 0);
+}
+
+// A thick rule drawn on the sheet lands where its twips say, past the margin.
+void TstCikti::gorunumCizer()
+{
+    Sayfa sayfa;
+    sayfa.zemin.cizgiler.append({QLineF(0, 1000, 6000, 1000), 120});
+    SayfaGorunumu gorunum;
+    gorunum.SayfaGoster(sayfa);
+    const QImage resim = gorunum.widget()->grab().toImage();
+
+    const double olcek = gorunum.logicalDpiX() / TwipInc;
+    const auto nokta = [olcek](double x, double y) {
+        return QPoint(qRound((KenarTwip + x) * olcek), qRound((KenarTwip + y) * olcek));
+    };
+    QCOMPARE(QColor(resim.pixel(nokta(3000, 1000))), QColor(Qt::black));
+    QCOMPARE(QColor(resim.pixel(nokta(3000, 1300))), QColor(Qt::white));
+    QCOMPARE(QColor(resim.pixel(nokta(3000, 1000 - KenarTwip))), QColor(Qt::white));
+}
+
+QTEST_MAIN(TstCikti)
+#include "tst_cikti.moc"

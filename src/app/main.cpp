@@ -1,0 +1,139 @@
+// The program: with no command word it opens its window; with one it works
+// without a window (sample data, printing the sample's forms to PDF).
+
+#include "cikti.h"
+#include "grid_yazdir.h"
+#include "izgara.h"
+#include "ornek_veri.h"
+#include "tek_deger.h"
+#include "veri_klasoru.h"
+#include "veritabani.h"
+#include "yazici.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QMessageBox>
+
+#include <cstdio>
+
+namespace {
+
+void hataYaz(const QString& mesaj)
+{
+    std::fprintf(stderr, "%s\n", qPrintable(mesaj));
+}
+
+// The unit list as the unit screen prints it.
+void uniteListesiYazdir(const QString& klasor, Yazici& p)
+{
+    Veritabani vt(klasor, Dosya::Genel);
+    const QString kurum = AlanGetir(vt, QStringLiteral("Sabit"), QStringLiteral("KurumAdi"),
+                                    QStringLiteral(" where Anahtar = 1 "));
+    QList<QStringList> satirlar{{QStringLiteral("Ünite Kod"), QStringLiteral("Ünite Adı")}};
+    QSqlQuery q = vt.Sorgu(QStringLiteral("Select UniteKod, UniteAd from Unite_K order by val(UniteKod)"));
+    while (q.next())
+        satirlar.append({q.value(0).toString(), q.value(1).toString()});
+    GridYazdir(p, kurum + QStringLiteral(" - ") + QStringLiteral("Bilet Listesi       Tarih :"),
+               Izgara(satirlar, {1000, 3790}));
+    p.EndDoc();
+}
+
+int ornekVeri(const QStringList& argumanlar, const QString& satirMetni)
+{
+    if (argumanlar.size() < 2) {
+        hataYaz(QStringLiteral("Kullanım: tasinir ornek-veri KLASÖR [--satir N]"));
+        return 2;
+    }
+    bool tamam = true;
+    const int satir = satirMetni.isEmpty() ? 3000 : satirMetni.toInt(&tamam);
+    if (!tamam || satir < 1) {
+        hataYaz(QStringLiteral("--satir bir pozitif tam sayı olmalı: %1").arg(satirMetni));
+        return 2;
+    }
+    const QString klasor = QDir(argumanlar.at(1)).absolutePath();
+    OrnekVeriYaz(klasor, satir);
+    std::printf("Örnek veri yazıldı: %s\n", qPrintable(klasor));
+    return 0;
+}
+
+int ornekFormlar(const QString& klasor, const QString& ciktiSecenegi)
+{
+    const QString cikti = ciktiSecenegi.isEmpty() ? QDir(klasor).filePath(QStringLiteral("formlar"))
+                                                  : QDir(ciktiSecenegi).absolutePath();
+    if (!QDir().mkpath(cikti)) {
+        hataYaz(QStringLiteral("Çıktı klasörü oluşturulamadı: %1").arg(cikti));
+        return 1;
+    }
+    const QString dosya = QDir(cikti).filePath(QStringLiteral("unite_listesi.pdf"));
+    PdfCikti pdf(dosya);
+    Yazici p(&pdf);
+    uniteListesiYazdir(klasor, p);
+    std::printf("Formlar PDF olarak yazıldı: %s\n  %s\n", qPrintable(cikti), qPrintable(dosya));
+    return 0;
+}
+
+int pencereli(const QString& klasor)
+{
+    OnizlemeCikti onizleme;
+    Yazici p(&onizleme);
+    uniteListesiYazdir(klasor, p);
+    return 0;
+}
+
+}
+
+int main(int argc, char* argv[])
+{
+    // Without a display the commands still print: Qt draws offscreen.
+    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
+        && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Tasinir"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Taşınır Mal Yönetimi"));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Taşınır Mal Yönetimi"));
+    parser.addHelpOption();
+    const QCommandLineOption veri(QStringLiteral("veri"), QStringLiteral("Veri klasörü."), QStringLiteral("klasör"));
+    const QCommandLineOption satir(QStringLiteral("satir"),
+                                   QStringLiteral("ornek-veri: yazılacak fiş satırı sayısı (varsayılan 3000)."),
+                                   QStringLiteral("sayı"));
+    const QCommandLineOption cikti(QStringLiteral("cikti"),
+                                   QStringLiteral("ornek-formlar: PDF'lerin yazılacağı klasör "
+                                                  "(varsayılan: veri klasöründe formlar)."),
+                                   QStringLiteral("klasör"));
+    parser.addOptions({veri, satir, cikti});
+    parser.addPositionalArgument(QStringLiteral("komut"),
+                                 QStringLiteral("ornek-veri KLASÖR: boş bir klasöre örnek veri yazar.\n"
+                                                "ornek-formlar: örnek verinin formlarını PDF olarak yazar.\n"
+                                                "Komut verilmezse program açılır."),
+                                 QStringLiteral("[komut]"));
+    parser.process(app);
+    const QStringList argumanlar = parser.positionalArguments();
+    const QString komut = argumanlar.value(0);
+    const QString klasor = VeriKlasoru::Sec(parser.value(veri));
+
+    try {
+        if (komut == QLatin1String("ornek-veri"))
+            return ornekVeri(argumanlar, parser.value(satir));
+        VeriKlasoru::Hazirla(klasor);
+        if (komut == QLatin1String("ornek-formlar"))
+            return ornekFormlar(klasor, parser.value(cikti));
+        if (!komut.isEmpty()) {
+            hataYaz(QStringLiteral("Bilinmeyen komut: %1 (tasinir --help)").arg(komut));
+            return 2;
+        }
+        return pencereli(klasor);
+    } catch (const VeriHatasi& h) {
+        if (komut.isEmpty())
+            QMessageBox::critical(nullptr, QStringLiteral("Taşınır"), h.Mesaj());
+        hataYaz(h.Mesaj());
+    } catch (const YaziciHatasi& h) {
+        if (komut.isEmpty())
+            QMessageBox::critical(nullptr, QStringLiteral("Taşınır"), h.Mesaj());
+        hataYaz(h.Mesaj());
+    }
+    return 1;
+}

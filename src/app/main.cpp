@@ -126,11 +126,7 @@ int main(int argc, char* argv[])
             return 2;
         }
         return pencereli(klasor);
-    } catch (const VeriHatasi& h) {
-        if (komut.isEmpty())
-            QMessageBox::critical(nullptr, QStringLiteral("Taşınır"), h.Mesaj());
-        hataYaz(h.Mesaj());
-    } catch (const YaziciHatasi& h) {
+    } catch (const Hata& h) {
         if (komut.isEmpty())
             QMessageBox::critical(nullptr, QStringLiteral("Taşınır"), h.Mesaj());
         hataYaz(h.Mesaj());

@@ -7,16 +7,6 @@
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 
-YaziciHatasi::YaziciHatasi()
-    : std::runtime_error("Belge yazdırılamıyor..")
-{
-}
-
-QString YaziciHatasi::Mesaj() const
-{
-    return QString::fromUtf8(what());
-}
-
 void BellekCikti::Yaz(const Belge& belge)
 {
     belgeler.append(belge);

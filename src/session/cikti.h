@@ -1,9 +1,9 @@
 #pragma once
 
+#include "hata.h"
 #include "sayfa.h"
 
 #include <QString>
-#include <stdexcept>
 
 class QPagedPaintDevice;
 class QPrinter;
@@ -11,11 +11,10 @@ class QWidget;
 
 // A document that cannot reach its output. The message is the one the user
 // sees, with the critical icon.
-class YaziciHatasi : public std::runtime_error
+class YaziciHatasi : public Hata
 {
 public:
-    YaziciHatasi();
-    QString Mesaj() const;
+    YaziciHatasi() : Hata(QStringLiteral("Belge yazdırılamıyor..")) {}
 };
 
 // Where a finished document goes when Yazici::EndDoc hands it over.

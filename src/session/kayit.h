@@ -1,8 +1,9 @@
 #pragma once
 
+#include "hata.h"
+
 #include <QString>
 #include <QVariant>
-#include <stdexcept>
 
 class QComboBox;
 class QLineEdit;
@@ -10,15 +11,10 @@ class QLineEdit;
 // An amount the money wording cannot spell (1 to 9 kuruş, a negative or
 // fractional amount, one in exponent form). The run-time stopped with a type
 // mismatch there; the message is Turkish and meant for the user.
-class BicimHatasi : public std::runtime_error
+class BicimHatasi : public Hata
 {
 public:
-    explicit BicimHatasi(const QString& mesaj)
-        : std::runtime_error(mesaj.toStdString()), m_mesaj(mesaj) {}
-    const QString& Mesaj() const { return m_mesaj; }
-
-private:
-    QString m_mesaj;
+    using Hata::Hata;
 };
 
 // Number formats of the printed forms. "Zero or empty" is a value equal to

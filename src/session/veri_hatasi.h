@@ -1,17 +1,10 @@
 #pragma once
 
-#include <QString>
-#include <stdexcept>
+#include "hata.h"
 
-// The one exception for data errors. The message is Turkish and is shown to
-// the user as it stands by the command that caught it.
-class VeriHatasi : public std::runtime_error
+// A data error: a statement failed, a file is not ours or cannot be opened.
+class VeriHatasi : public Hata
 {
 public:
-    explicit VeriHatasi(const QString& mesaj)
-        : std::runtime_error(mesaj.toStdString()), m_mesaj(mesaj) {}
-    const QString& Mesaj() const { return m_mesaj; }
-
-private:
-    QString m_mesaj;
+    using Hata::Hata;
 };

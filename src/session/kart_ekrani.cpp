@@ -1,0 +1,79 @@
+#include "kart_ekrani.h"
+
+#include "hata.h"
+
+#include <QApplication>
+#include <QBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+
+KartEkrani::KartEkrani(const CalismaBaglami& baglam, QWidget* ebeveyn)
+    : QWidget(ebeveyn, Qt::Window), m_baglam(baglam), m_durum(new QLabel(this))
+{
+    m_durum->setObjectName(QStringLiteral("Picture2"));
+    m_durum->setFrameShape(QFrame::StyledPanel);
+    m_durum->setMinimumHeight(22);
+    setAttribute(Qt::WA_DeleteOnClose);
+    TusTanimla(QKeySequence(Qt::Key_Escape), [this] { close(); });
+}
+
+void KartEkrani::DurumSatiriEkle(QBoxLayout* yerlesim)
+{
+    yerlesim->addWidget(m_durum);
+}
+
+void KartEkrani::Durum(const QString& metin)
+{
+    m_durum->setText(metin);
+    m_durum->repaint();
+}
+
+void KartEkrani::TusTanimla(QKeySequence tus, std::function<void()> is)
+{
+    auto* kisayol = new QShortcut(tus, this);
+    kisayol->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(kisayol, &QShortcut::activated, this, [is = std::move(is)] { is(); });
+}
+
+bool KartEkrani::Sor(const QString& soru, const QString& baslik, QMessageBox::Icon ikon)
+{
+    return EvetHayir(this, soru, baslik, ikon);
+}
+
+void KartEkrani::Bildir(const QString& mesaj, const QString& baslik, QMessageBox::Icon ikon)
+{
+    QMessageBox kutu(ikon, baslik.isEmpty() ? windowTitle() : baslik, mesaj, QMessageBox::NoButton, this);
+    kutu.addButton(QStringLiteral("Tamam"), QMessageBox::AcceptRole);
+    kutu.exec();
+}
+
+void KartEkrani::Komut(const std::function<void()>& is)
+{
+    try {
+        MesgulImlec imlec;
+        is();
+    } catch (const Hata& h) {
+        Bildir(h.Mesaj(), windowTitle(), QMessageBox::Critical);
+    }
+}
+
+MesgulImlec::MesgulImlec()
+{
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+MesgulImlec::~MesgulImlec()
+{
+    QApplication::restoreOverrideCursor();
+}
+
+bool EvetHayir(QWidget* ebeveyn, const QString& soru, const QString& baslik, QMessageBox::Icon ikon)
+{
+    QMessageBox kutu(ikon, baslik, soru, QMessageBox::NoButton, ebeveyn);
+    QPushButton* evet = kutu.addButton(QStringLiteral("Evet"), QMessageBox::YesRole);
+    kutu.addButton(QStringLiteral("Hayır"), QMessageBox::NoRole);
+    kutu.setDefaultButton(evet);
+    kutu.exec();
+    return kutu.clickedButton() == evet;
+}

@@ -2,9 +2,13 @@
 // without a window (sample data, printing the sample's forms to PDF).
 
 #include "cikti.h"
+#include "ekranlar.h"
 #include "grid_yazdir.h"
 #include "izgara.h"
+#include "menu.h"
 #include "ornek_veri.h"
+#include "oturum.h"
+#include "parola.h"
 #include "tek_deger.h"
 #include "veri_klasoru.h"
 #include "veritabani.h"
@@ -73,12 +77,18 @@ int ornekFormlar(const QString& klasor, const QString& ciktiSecenegi)
     return 0;
 }
 
+// The login, then the menu for the rest of the run.
 int pencereli(const QString& klasor)
 {
-    OnizlemeCikti onizleme;
-    Yazici p(&onizleme);
-    uniteListesiYazdir(klasor, p);
-    return 0;
+    Parola parola(Oturum::ParolaYazimlari(klasor));
+    if (parola.exec() != QDialog::Accepted)
+        return 0;
+    Menu menu(klasor);
+    EkranlariTanimla(menu);
+    QObject::connect(&menu, &Menu::Cikis, qApp, &QApplication::closeAllWindows);
+    menu.show();
+    Oturum::AylikKopya(klasor);
+    return QApplication::exec();
 }
 
 }

@@ -1,0 +1,80 @@
+#include "ekranlar.h"
+#include "menu.h"
+#include "saat.h"
+#include "sabit.h"
+#include "veri_klasoru.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QtTest>
+
+// The menu as the program wires it.
+class TstEkranlar : public QObject
+{
+    Q_OBJECT
+
+    static Sabit* acikSabit()
+    {
+        for (QWidget* w : QApplication::topLevelWidgets())
+            if (auto* s = qobject_cast<Sabit*>(w); s && s->isVisible())
+                return s;
+        return nullptr;
+    }
+
+private slots:
+    void init() { Saat::Ayarla(QDate(2026, 3, 14)); }
+    void cleanup()
+    {
+        Saat::Ayarla({});
+        for (QWidget* w : QApplication::topLevelWidgets())
+            w->close();
+    }
+
+    void sabitKaydiMenununYiliniHemenDegistirir()
+    {
+        QTemporaryDir tmp;
+        VeriKlasoru::Hazirla(tmp.path());
+        Menu menu(tmp.path());
+        EkranlariTanimla(menu);
+        menu.show();
+        QCOMPARE(menu.CalisYil->text(), QStringLiteral("2026"));
+
+        // A screen opened before the change keeps the year it was given.
+        QList<CalismaBaglami> fisler;
+        menu.EkranTanimla(QStringLiteral("FIS_K"),
+                          [&](const CalismaBaglami& b, const QVariantMap&) { fisler << b; });
+        QTest::mouseClick(menu.Dugme(QStringLiteral("Command13")), Qt::LeftButton);
+
+        QPushButton* sabitDugmesi = menu.Dugme(QStringLiteral("Command14"));
+        QVERIFY(sabitDugmesi->isEnabled());
+        QTest::mouseClick(sabitDugmesi, Qt::LeftButton);
+        Sabit* sabit = acikSabit();
+        QVERIFY(sabit);
+        QVERIFY(QTest::qWaitForWindowExposed(sabit));
+        auto* yil = sabit->findChild<QLineEdit*>(QStringLiteral("CalisYil"));
+        auto* ay = sabit->findChild<QLineEdit*>(QStringLiteral("CalisAy"));
+        yil->setFocus();
+        yil->selectAll();
+        QTest::keyClicks(yil, QStringLiteral("2027"));
+        ay->setFocus();
+        ay->selectAll();
+        QTest::keyClicks(ay, QStringLiteral("2"));
+        QTest::keyClick(ay, Qt::Key_F1);
+
+        QCOMPARE(menu.CalisYil->text(), QStringLiteral("2027"));
+        QCOMPARE(menu.CalisAy->text(), QStringLiteral("2"));
+        QCOMPARE(fisler.at(0).CalisYil, QStringLiteral("2026"));
+        QTest::mouseClick(menu.Dugme(QStringLiteral("Command13")), Qt::LeftButton);
+        QCOMPARE(fisler.at(1).CalisYil, QStringLiteral("2027"));
+
+        // The form exists once: the menu bar entry brings the same one up.
+        menu.Giris(QStringLiteral("SB"))->trigger();
+        QCOMPARE(acikSabit(), sabit);
+        QTest::keyClick(yil, Qt::Key_Escape);
+        QVERIFY(!acikSabit());
+    }
+};
+
+QTEST_MAIN(TstEkranlar)
+#include "tst_ekranlar.moc"

@@ -1,6 +1,8 @@
 #include "kart_ekrani.h"
 
+#include "cikti.h"
 #include "hata.h"
+#include "yazici.h"
 
 #include <QApplication>
 #include <QBoxLayout>
@@ -54,6 +56,18 @@ void KartEkrani::Komut(const std::function<void()>& is)
         MesgulImlec imlec;
         is();
     } catch (const Hata& h) {
+        Bildir(h.Mesaj(), windowTitle(), QMessageBox::Critical);
+    }
+}
+
+void KartEkrani::Yazdir(const std::function<void(Yazici&)>& is)
+{
+    OnizlemeCikti onizleme(this);
+    Yazici p(m_cikti ? m_cikti : &onizleme);
+    try {
+        is(p);
+    } catch (const YaziciHatasi& h) {
+        p.KillDoc();
         Bildir(h.Mesaj(), windowTitle(), QMessageBox::Critical);
     }
 }

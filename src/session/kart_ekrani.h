@@ -7,7 +7,9 @@
 
 #include <functional>
 
+class Cikti;
 class QLabel;
+class Yazici;
 
 // What every card screen shares: the working context it was opened with, a
 // status line, function keys that act wherever the focus is on the screen,
@@ -22,6 +24,9 @@ public:
     const CalismaBaglami& Baglam() const { return m_baglam; }
     // The status line, shown under the screen's controls.
     QLabel* DurumSatiri() const { return m_durum; }
+    // Where the screen's printing goes: the print preview unless another
+    // output is chosen (tests keep the pages in memory). Not owned.
+    void CiktiSec(Cikti* cikti) { m_cikti = cikti; }
 
 protected:
     // The screen's own copy of the context, for screens that change it.
@@ -40,10 +45,14 @@ protected:
     void Komut(const std::function<void()>& is);
     // Puts the status line under the given layout's last row.
     void DurumSatiriEkle(class QBoxLayout* yerlesim);
+    // Prints through the screen's output; a printer failure shows
+    // "Belge yazdırılamıyor.." and drops the document.
+    void Yazdir(const std::function<void(Yazici&)>& is);
 
 private:
     CalismaBaglami m_baglam;
     QLabel* m_durum;
+    Cikti* m_cikti = nullptr;
 };
 
 // The busy cursor for as long as it lives.

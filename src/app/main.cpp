@@ -5,6 +5,7 @@
 #include "ekranlar.h"
 #include "grid_yazdir.h"
 #include "izgara.h"
+#include "kod_plani_yukle.h"
 #include "menu.h"
 #include "ornek_veri.h"
 #include "oturum.h"
@@ -77,6 +78,18 @@ int ornekFormlar(const QString& klasor, const QString& ciktiSecenegi)
     return 0;
 }
 
+int kodPlani(const QString& klasor, const QStringList& argumanlar)
+{
+    if (argumanlar.size() < 2) {
+        hataYaz(QStringLiteral("Kullanım: tasinir kod-plani-yukle --veri KLASÖR DOSYA"));
+        return 2;
+    }
+    const KodPlaniSonucu sonuc = KodPlaniYukle(klasor, argumanlar.at(1));
+    std::printf("Hesap planı yüklendi: %d yeni, %d adı değişen, %d aynı kod.\n", sonuc.eklenen,
+                sonuc.adiDegisen, sonuc.ayni);
+    return 0;
+}
+
 // The login, then the menu for the rest of the run.
 int pencereli(const QString& klasor)
 {
@@ -118,6 +131,8 @@ int main(int argc, char* argv[])
     parser.addPositionalArgument(QStringLiteral("komut"),
                                  QStringLiteral("ornek-veri KLASÖR: boş bir klasöre örnek veri yazar.\n"
                                                 "ornek-formlar: örnek verinin formlarını PDF olarak yazar.\n"
+                                                "kod-plani-yukle DOSYA: kurumun hesap kodu listesini "
+                                                "(kod<TAB>ad) yükler.\n"
                                                 "Komut verilmezse program açılır."),
                                  QStringLiteral("[komut]"));
     parser.process(app);
@@ -131,6 +146,8 @@ int main(int argc, char* argv[])
         VeriKlasoru::Hazirla(klasor);
         if (komut == QLatin1String("ornek-formlar"))
             return ornekFormlar(klasor, parser.value(cikti));
+        if (komut == QLatin1String("kod-plani-yukle"))
+            return kodPlani(klasor, argumanlar);
         if (!komut.isEmpty()) {
             hataYaz(QStringLiteral("Bilinmeyen komut: %1 (tasinir --help)").arg(komut));
             return 2;

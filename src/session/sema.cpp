@@ -170,7 +170,7 @@ void referansPlaniYaz(Veritabani& vt)
     for (const auto& [kod, ad] : Sema::KodListesi()) {
         QStringList gruplar = kod.split(u' ');
         while (gruplar.size() < 6)
-            gruplar.append(QString());
+            gruplar.append(QStringLiteral(""));  // empty, not NULL
         QVariantList degerler;
         for (int i = 0; i < 6; ++i)
             degerler.append(gruplar.at(i));

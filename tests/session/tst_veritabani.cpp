@@ -73,6 +73,7 @@ private slots:
                                                     "where Alan1 = '150' and Alan2 = '01' and Alan3 = '04'"));
         QVERIFY(alanlar.next());
         QCOMPARE(alanlar.value(3).toString(), QString());
+        QVERIFY(!alanlar.isNull(3));
         QCOMPARE(alanlar.value(4).toString(), QStringLiteral("Büro Sarf Malzemeleri"));
         QCOMPARE(AlanGetir(hk, QStringLiteral("HesapKod2"), QStringLiteral("MalzAdi"),
                            QStringLiteral(" where HesapKod = ?"), {QStringLiteral("255 01 01")}),

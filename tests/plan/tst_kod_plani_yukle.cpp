@@ -1,0 +1,116 @@
+#include "kod_plani_yukle.h"
+#include "tek_deger.h"
+#include "veri_klasoru.h"
+#include "veritabani.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+class TstKodPlaniYukle : public QObject
+{
+    Q_OBJECT
+
+    static QString dosya(const QTemporaryDir& tmp, const QByteArray& icerik)
+    {
+        const QString yol = tmp.filePath(QStringLiteral("kodlar.tsv"));
+        QFile f(yol);
+        f.open(QIODevice::WriteOnly);
+        f.write(icerik);
+        return yol;
+    }
+
+    static int say(Veritabani& vt, const QString& tablo)
+    {
+        return int(ToplamAl(vt, tablo, QStringLiteral("1")));
+    }
+
+private slots:
+    void ekler_adlandirir_ve_aynisini_birakir()
+    {
+        QTemporaryDir tmp;
+        VeriKlasoru::Hazirla(tmp.path());
+        int plan = 0;
+        {
+            Veritabani vt(tmp.path(), Dosya::Genel);
+            plan = say(vt, QStringLiteral("HESAP_K"));
+        }
+        const QString yol = dosya(tmp, "150\tİlkmadde-Malzeme\n"
+                                       "\n"
+                                       "150 01\tKırtasiye ve Büro Malzemeleri\n"
+                                       "150 11\tOkul'un Özel Malzemeleri\n"
+                                       "150 11 01\tKoro Kıyafetleri\n");
+        const KodPlaniSonucu sonuc = KodPlaniYukle(tmp.path(), yol);
+        QCOMPARE(sonuc.eklenen, 2);
+        QCOMPARE(sonuc.adiDegisen, 1);
+        QCOMPARE(sonuc.ayni, 1);
+
+        Veritabani genel(tmp.path(), Dosya::Genel);
+        QCOMPARE(say(genel, QStringLiteral("HESAP_K")), plan + 2);
+        QCOMPARE(AlanGetir(genel, QStringLiteral("HESAP_K"), QStringLiteral("HesapAd"),
+                           QStringLiteral(" where HesapKod = ?"), {QStringLiteral("150 01")}),
+                 QStringLiteral("Kırtasiye ve Büro Malzemeleri"));
+        QCOMPARE(AlanGetir(genel, QStringLiteral("HESAP_K"), QStringLiteral("HesapAd"),
+                           QStringLiteral(" where HesapKod = ?"), {QStringLiteral("150 11")}),
+                 QStringLiteral("Okul'un Özel Malzemeleri"));
+        // The new level 2 row answers the level test the class screen makes.
+        QCOMPARE(AlanGetir(genel, QStringLiteral("HESAP_K"), QStringLiteral("HesapKod"),
+                           QStringLiteral(" where Mid(HesapKod,1,6) = ? and Mid(HesapKod,11,1) = '' and "
+                                          "Mid(HesapKod,9,1) <> ''"),
+                           {QStringLiteral("150 11")}),
+                 QStringLiteral("150 11 01"));
+
+        Veritabani hk(tmp.path(), Dosya::HesapKod);
+        QCOMPARE(AlanGetir(hk, QStringLiteral("HesapKod2"), QStringLiteral("MalzAdi"),
+                           QStringLiteral(" where HesapKod = ?"), {QStringLiteral("150 01")}),
+                 QStringLiteral("Kırtasiye ve Büro Malzemeleri"));
+        QCOMPARE(AlanGetir(hk, QStringLiteral("HesapKod1"), QStringLiteral("Alan7"),
+                           QStringLiteral(" where Alan1 = '150' and Alan2 = '11' and Alan3 = '01' and Alan4 = ''")),
+                 QStringLiteral("Koro Kıyafetleri"));
+        QCOMPARE(AlanGetir(hk, QStringLiteral("HesapKod1"), QStringLiteral("Alan7"),
+                           QStringLiteral(" where Alan1 = '150' and Alan2 = '01' and Alan3 = ''")),
+                 QStringLiteral("Kırtasiye ve Büro Malzemeleri"));
+        QCOMPARE(say(hk, QStringLiteral("HesapKod1")), plan + 2);
+    }
+
+    void bozukSatirdaHicbirSeyYazilmaz_data()
+    {
+        QTest::addColumn<QByteArray>("icerik");
+        QTest::addColumn<QString>("mesaj");
+        QTest::newRow("biçim") << QByteArray("150 01\tYeni Ad\n150 12\tYeni\n15 01\tBozuk\n")
+                               << QStringLiteral("Satır 3: \"15 01\" kodu XXX XX XX XX XX XX XX biçiminde değil.");
+        QTest::newRow("çift boşluk") << QByteArray("150 01\tYeni Ad\n150  12\tBozuk\n")
+                                     << QStringLiteral("Satır 2: \"150  12\" kodu");
+        QTest::newRow("sekme yok") << QByteArray("150 01\tYeni Ad\n150 12 Bozuk\n")
+                                   << QStringLiteral("Satır 2: kod ile adı bir sekme ile ayrılmalı.");
+        QTest::newRow("ad yok") << QByteArray("150 01\tYeni Ad\n150 12\t  \n")
+                                << QStringLiteral("Satır 2: \"150 12\" kodunun adı boş.");
+        QTest::newRow("iki kez") << QByteArray("150 12\tYeni\n150 01\tYeni Ad\n150 12\tYine\n")
+                                 << QStringLiteral("Satır 3: \"150 12\" kodu 1. satırda da var.");
+    }
+
+    void bozukSatirdaHicbirSeyYazilmaz()
+    {
+        QFETCH(QByteArray, icerik);
+        QFETCH(QString, mesaj);
+        QTemporaryDir tmp;
+        VeriKlasoru::Hazirla(tmp.path());
+        try {
+            KodPlaniYukle(tmp.path(), dosya(tmp, icerik));
+            QFAIL("bozuk dosya yüklendi");
+        } catch (const VeriHatasi& h) {
+            QVERIFY2(h.Mesaj().startsWith(mesaj), qPrintable(h.Mesaj()));
+            QVERIFY(h.Mesaj().endsWith(QStringLiteral("Hesap planına hiçbir şey yazılmadı.")));
+        }
+        Veritabani vt(tmp.path(), Dosya::Genel);
+        QCOMPARE(AlanGetir(vt, QStringLiteral("HESAP_K"), QStringLiteral("HesapAd"),
+                           QStringLiteral(" where HesapKod = ?"), {QStringLiteral("150 01")}),
+                 QStringLiteral("Kırtasiye Malzemeleri"));
+        QCOMPARE(AlanGetir(vt, QStringLiteral("HESAP_K"), QStringLiteral("HesapKod"),
+                           QStringLiteral(" where HesapKod = ?"), {QStringLiteral("150 12")}),
+                 QString());
+    }
+};
+
+QTEST_GUILESS_MAIN(TstKodPlaniYukle)
+#include "tst_kod_plani_yukle.moc"

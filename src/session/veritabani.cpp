@@ -129,19 +129,53 @@ void* Veritabani::Tutamac() const
     return nullptr;
 }
 
+namespace {
+
+// Qt binds a null QString as NULL; our texts are empty text. NULL is written
+// only when asked for with an empty QVariant.
+void bagla(QSqlQuery& sorgu, const QVariantList& degerler)
+{
+    for (const QVariant& deger : degerler) {
+        if (deger.typeId() == QMetaType::QString && deger.toString().isNull())
+            sorgu.addBindValue(QStringLiteral(""));
+        else
+            sorgu.addBindValue(deger);
+    }
+}
+
+VeriHatasi sorguHatasi(const QString& dosya, const QSqlQuery& sorgu)
+{
+    return VeriHatasi(QStringLiteral("Veri tabanı hatası (%1): %2").arg(dosya, sorgu.lastError().text()));
+}
+
+}
+
 QSqlQuery Veritabani::Sorgu(const QString& sql, const QVariantList& degerler)
 {
     QSqlQuery sorgu(Baglanti());
     sorgu.setForwardOnly(true);
     if (!sorgu.prepare(sql))
-        throw VeriHatasi(QStringLiteral("Veri tabanı hatası (%1): %2")
-                             .arg(QFileInfo(m_yol).fileName(), sorgu.lastError().text()));
-    for (const QVariant& deger : degerler)
-        sorgu.addBindValue(deger);
+        throw sorguHatasi(QFileInfo(m_yol).fileName(), sorgu);
+    bagla(sorgu, degerler);
     if (!sorgu.exec())
-        throw VeriHatasi(QStringLiteral("Veri tabanı hatası (%1): %2")
-                             .arg(QFileInfo(m_yol).fileName(), sorgu.lastError().text()));
+        throw sorguHatasi(QFileInfo(m_yol).fileName(), sorgu);
     return sorgu;
+}
+
+HazirKomut::HazirKomut(Veritabani& vt, const QString& sql)
+    : m_dosya(QFileInfo(vt.Yol()).fileName()), m_sorgu(vt.Baglanti())
+{
+    m_sorgu.setForwardOnly(true);
+    if (!m_sorgu.prepare(sql))
+        throw sorguHatasi(m_dosya, m_sorgu);
+}
+
+QSqlQuery& HazirKomut::Calistir(const QVariantList& degerler)
+{
+    bagla(m_sorgu, degerler);
+    if (!m_sorgu.exec())
+        throw sorguHatasi(m_dosya, m_sorgu);
+    return m_sorgu;
 }
 
 int Veritabani::Calistir(const QString& sql, const QVariantList& degerler)

@@ -26,7 +26,8 @@ public:
     Veritabani(const Veritabani&) = delete;
     Veritabani& operator=(const Veritabani&) = delete;
 
-    // Prepares, binds the values in order and runs; throws VeriHatasi.
+    // Prepares, binds the values in order and runs; throws VeriHatasi. A
+    // null QString is written as empty text; an empty QVariant as NULL.
     QSqlQuery Sorgu(const QString& sql, const QVariantList& degerler = {});
     // As Sorgu, for statements that change rows; answers the count changed.
     int Calistir(const QString& sql, const QVariantList& degerler = {});
@@ -42,6 +43,20 @@ private:
     QString m_yol;
     QString m_ad;
     Dosya m_dosya;
+};
+
+// A statement prepared once and run many times with new values, with the
+// binding rules of Veritabani::Sorgu.
+class HazirKomut
+{
+public:
+    HazirKomut(Veritabani& vt, const QString& sql);
+    // Runs with the values; throws VeriHatasi.
+    QSqlQuery& Calistir(const QVariantList& degerler);
+
+private:
+    QString m_dosya;
+    QSqlQuery m_sorgu;
 };
 
 // Writes that belong together: BEGIN IMMEDIATE now, ROLLBACK unless Onayla

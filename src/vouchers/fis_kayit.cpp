@@ -1,0 +1,249 @@
+#include "fis_kayit.h"
+
+#include "bicim.h"
+#include "kayit.h"
+#include "saat.h"
+#include "tek_deger.h"
+#include "veritabani.h"
+
+#include <cmath>
+
+QString FisEkrani::Hucre(int satir, int sutun) const
+{
+    if (satir < 1 || satir > Satirlar.size())
+        return {};
+    return Satirlar.at(satir - 1).value(sutun);
+}
+
+void FisEkrani::HucreYaz(int satir, int sutun, const QString& metin)
+{
+    while (Satirlar.size() < satir)
+        Satirlar.append(QStringList());
+    QStringList& hucreler = Satirlar[satir - 1];
+    while (hucreler.size() < SutunSayisi)
+        hucreler.append(QString());
+    hucreler[sutun] = metin;
+}
+
+namespace {
+
+// A text going into a field is trimmed and cut to the column's limit.
+QString kes(const QString& metin, int enCok = -1)
+{
+    const QString kirpik = metin.trimmed();
+    return enCok < 0 ? kirpik : kirpik.left(enCok);
+}
+
+
+QString bugunMetni()
+{
+    return Saat::Bugun().toString(QStringLiteral("dd.MM.yyyy"));
+}
+
+// Today's day and month in the working year: Mid(Date,1,6) + year.
+QString bugunCalismaYilinda(const QString& yil)
+{
+    return bugunMetni().left(6) + yil;
+}
+
+qint64 fisNoSayisi(const QString& fisNo)
+{
+    return qint64(std::floor(Val(fisNo)));
+}
+
+const QString fisKosulu = QStringLiteral(" where FisNo = ? and Fcins = ? and Mid(Tarih,7,4) = ? ");
+
+}
+
+const QStringList& FisKayit::IslemTurleri()
+{
+    static const QStringList turler = {
+        QStringLiteral("SatınAlma"),       QStringLiteral("Üretim"),       QStringLiteral("DevirYoluylaAlma"),
+        QStringLiteral("SayımFazlası"),    QStringLiteral("İade"),         QStringLiteral("BağışAlma"),
+        QStringLiteral("Yardım"),          QStringLiteral("DeğerArtışı"),  QStringLiteral("HurdayaAyırma"),
+        QStringLiteral("Tüketim"),         QStringLiteral("Satma"),        QStringLiteral("İmha"),
+        QStringLiteral("Fire"),            QStringLiteral("Kayıp"),        QStringLiteral("Çalınma"),
+        QStringLiteral("Yıpranma"),        QStringLiteral("Bozulma"),      QStringLiteral("SayımNoksanı"),
+        QStringLiteral("Devretme/Bağışlama"),
+    };
+    return turler;
+}
+
+QString FisKayit::IslemAdi(int kod)
+{
+    return kod >= 1 && kod <= IslemTurleri().size() ? IslemTurleri().at(kod - 1) : QString();
+}
+
+int FisKayit::EnSon(const QString& klasor, const QString& fcins, const QString& yil)
+{
+    Veritabani vt(klasor, Dosya::Ayniyat);
+    return int(EnBuyukSayi(vt, QStringLiteral("FIS_B"), QStringLiteral("FisNo"),
+                           QStringLiteral(" where  Fcins = ? and mid(Tarih,7,4) = ? "), {fcins, yil}))
+           + 1;
+}
+
+QString FisKayit::SicilNo(const QString& hesapKod, const QString& yil, const QString& fisNo)
+{
+    return SayiMetni(Val(hesapKod)) + yil + SayiMetni(Val(fisNo)) + QStringLiteral("0");
+}
+
+KayitSonucu FisKayit::Kaydet(const QString& klasor, FisEkrani& fis, const std::function<bool()>& aySorusu)
+{
+    if (fis.FisNo.trimmed().isEmpty() || Val(fis.FisNo) == 0)
+        return KayitSonucu::FisNoYok;
+    if (fis.Hucre(1, 1).isEmpty())
+        return KayitSonucu::IlkSatirBos;
+    if (Saat::Bugun().month() != int(Val(fis.CalisAy)) && !aySorusu())
+        return KayitSonucu::Vazgecildi;
+
+    const qint64 no = fisNoSayisi(fis.FisNo);
+    const QString yil = fis.CalisYil;
+    Veritabani vt(klasor, Dosya::Ayniyat);
+    Islem islem(vt);
+
+    // The head. Its document date and description are those of the first
+    // line; the two date fallbacks differ on purpose.
+    if (fis.KabulTarih.isEmpty())
+        fis.KabulTarih = bugunCalismaYilinda(yil);
+    if (fis.Hucre(1, 7).isEmpty())
+        fis.HucreYaz(1, 7, QStringLiteral("01.01.") + yil);
+    const QString belgeTarih =
+        fis.Hucre(1, 6).isEmpty() ? bugunCalismaYilinda(yil) : kes(fis.Hucre(1, 7));
+    const QVariantList bas = {Val(fis.FisNo),         fis.Tarih,
+                              kes(fis.KabulSayi),     fis.KabulTarih,
+                              kes(fis.TeslimAlan, 32), kes(fis.NeredenGeldigi, 25),
+                              kes(fis.FCins),         kes(fis.Hucre(1, 3), 35),
+                              belgeTarih,             kes(fis.BelgeSayi, 12),
+                              kes(fis.BelgeTur, 10)};
+    QSqlQuery var = vt.Sorgu(QStringLiteral("select rowid from FIS_B") + fisKosulu, {no, fis.FCins, yil});
+    if (var.next()) {
+        vt.Calistir(QStringLiteral("update FIS_B set FisNo = ?, Tarih = ?, KabulSayi = ?, KabulTarih = ?, "
+                                   "TeslimAlan = ?, NeredenGeldigi = ?, FCins = ?, Ozellik = ?, BelgeTarih = ?, "
+                                   "BelgeSayi = ?, BelgeTur = ? where rowid = ?"),
+                    bas + QVariantList{var.value(0)});
+    } else {
+        vt.Calistir(QStringLiteral("insert into FIS_B (FisNo, Tarih, KabulSayi, KabulTarih, TeslimAlan, "
+                                   "NeredenGeldigi, FCins, Ozellik, BelgeTarih, BelgeSayi, BelgeTur) "
+                                   "values (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+                    bas);
+    }
+
+    // The lines: all deleted, then one row per filled grid row. A skipped
+    // row leaves its line number unused.
+    vt.Calistir(QStringLiteral("Delete from FIS") + fisKosulu, {no, fis.FCins, yil});
+    HazirKomut ekle(vt, QStringLiteral(
+        "insert into FIS (Satir, Tarih, FisNo, HesapKod, Ozellik, Birimi, Miktar, FCins, BirimFiyat, "
+        "BelgeTarih, BelgeSayi, Unite, IslemTur, SicilNo, KDV, Cikan, KimeVerildigi, AmbarNo, OzelKod, "
+        "KabulTarih, KabulSayi, FCinss) values (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, '')"));
+    const QString tarihYili = fis.Tarih.mid(6, 4);
+    for (int i = 1; i <= fis.Satirlar.size(); ++i) {
+        if (fis.Hucre(i, 1).isEmpty())
+            continue;
+        if (fis.Hucre(i, 7).trimmed().isEmpty())
+            fis.HucreYaz(i, 7, bugunMetni());
+        const QString hesapKod = kes(fis.Hucre(i, 1), 20);
+        const QVariantList degerler = {
+            i,
+            fis.Tarih,
+            no,
+            hesapKod,
+            kes(fis.Hucre(i, 3), 30),
+            kes(fis.Hucre(i, 4), 7),
+            fis.Hangi == QLatin1String("C") ? QString() : kes(fis.Hucre(i, 5), 14),
+            kes(fis.FCins),
+            kes(fis.Hucre(i, 6), 20),
+            kes(fis.Hucre(i, 7)),
+            kes(fis.BelgeSayi),
+            kes(fis.Hucre(i, 8), 4),
+            Val(fis.Hucre(i, 9)),
+            SicilNo(hesapKod, tarihYili, fis.FisNo),
+            Val(fis.Hucre(i, 13)),
+            kes(fis.Hucre(i, 10), 14),
+            kes(fis.Hucre(i, 11), 30),
+            Val(fis.Hucre(i, 12).left(7)),
+            kes(fis.Hucre(i, 14), 7),
+            fis.KabulTarih,
+            kes(fis.KabulSayi),
+        };
+        ekle.Calistir(degerler);
+    }
+    islem.Onayla();
+    return KayitSonucu::Kaydedildi;
+}
+
+bool FisKayit::Getir(const QString& klasor, FisEkrani& fis)
+{
+    if (fis.FisNo.trimmed().isEmpty())
+        return false;
+    Veritabani vt(klasor, Dosya::Ayniyat);
+    QSqlQuery q = vt.Sorgu(QStringLiteral("Select FisNo, Tarih, KabulTarih, KabulSayi, BelgeSayi, TeslimAlan, "
+                                          "NeredenGeldigi, BelgeTur From FIS_B")
+                               + fisKosulu,
+                           {fisNoSayisi(fis.FisNo), fis.FCins, fis.CalisYil});
+    if (!q.next())
+        return false;
+    fis.FisNo = q.value(0).toString();
+    fis.Tarih = q.value(1).toString();
+    fis.KabulTarih = q.value(2).toString();
+    fis.KabulSayi = q.value(3).toString();
+    fis.BelgeSayi = q.value(4).toString();
+    fis.TeslimAlan = q.value(5).toString();
+    fis.NeredenGeldigi = q.value(6).toString();
+    fis.BelgeTur = q.value(7).toString().trimmed();
+    return true;
+}
+
+FisSatirlari FisKayit::SatirlariGetir(const QString& klasor, const QString& fisNo, const QString& fcins,
+                                      const QString& yil)
+{
+    FisSatirlari sonuc;
+    Veritabani ayniyat(klasor, Dosya::Ayniyat);
+    QSqlQuery q = ayniyat.Sorgu(
+        QStringLiteral("Select Satir, HesapKod, '', Ozellik, Birimi, Miktar, BirimFiyat, BelgeTarih, Unite, "
+                       "IslemTur, Cikan, KimeVerildigi, AmbarNo, KDV, OzelKod From FIS "
+                       "Where FisNo = ? and Mid(Tarih,7,4) = ?  and Fcins = ? Order by Satir"),
+        {fisNoSayisi(fisNo), yil, fcins});
+    while (q.next()) {
+        QStringList satir;
+        for (int i = 0; i < 15; ++i)
+            satir << q.value(i).toString();
+        satir << QString() << QString();
+        sonuc.hucreler << satir;
+    }
+    if (sonuc.hucreler.isEmpty())
+        return sonuc;
+    Veritabani genel(klasor, Dosya::Genel);
+    for (QStringList& satir : sonuc.hucreler) {
+        if (!satir.at(1).isEmpty())
+            satir[2] = AlanGetir(genel, QStringLiteral("Urun_K"), QStringLiteral("MalzAdi"),
+                                 QStringLiteral(" where HesapKod = ? "), {satir.at(1)});
+        sonuc.islemAdlari << (satir.at(1).isEmpty() ? QString() : IslemAdi(int(Val(satir.at(9)))));
+        sonuc.uniteAdlari << (Val(satir.at(8)) != 0
+                                  ? AlanGetir(genel, QStringLiteral("Unite_K"), QStringLiteral("UniteAd"),
+                                              QStringLiteral(" where UniteKod = ? "), {satir.at(8)})
+                                  : QString());
+    }
+    return sonuc;
+}
+
+void FisKayit::Sil(const QString& klasor, const FisEkrani& fis)
+{
+    const QVariantList anahtar = {fisNoSayisi(fis.FisNo), fis.Tarih.mid(6, 4), fis.FCins};
+    Veritabani vt(klasor, Dosya::Ayniyat);
+    Islem islem(vt);
+    vt.Calistir(QStringLiteral("Delete from FIS_B where FisNo = ? and Mid(Tarih, 7, 4) = ? and Fcins = ?"), anahtar);
+    vt.Calistir(QStringLiteral("Delete from FIS where FisNo = ? and Mid(Tarih, 7, 4) = ? and Fcins = ?"), anahtar);
+    islem.Onayla();
+}
+
+void FisKayit::Temizle(FisEkrani& fis)
+{
+    fis.Tarih = bugunCalismaYilinda(fis.CalisYil);
+    fis.Satirlar.clear();
+    fis.KabulSayi.clear();
+    fis.KabulTarih = bugunMetni();
+    fis.TeslimAlan.clear();
+    fis.BelgeTur.clear();
+    fis.BelgeSayi.clear();
+    fis.NeredenGeldigi.clear();
+}

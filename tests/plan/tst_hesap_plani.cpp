@@ -1,0 +1,453 @@
+#include "cikti.h"
+#include "hesap_k.h"
+#include "izgara.h"
+#include "klavye.h"
+#include "liste_izgarasi.h"
+#include "modal_yanit.h"
+#include "sema.h"
+#include "veritabani.h"
+#include "yazici.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTemporaryDir>
+#include <QToolButton>
+#include <QtTest>
+
+#include <memory>
+
+using HesapPlani::Adim;
+using HesapPlani::Sira;
+
+class TstHesapPlani : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_tmp;
+    QPointer<HESAP_K> m_ekran;
+
+    QString klasor() const { return m_tmp->path(); }
+
+    // The first column of a statement on GENEL.MDB.
+    QStringList sql(const QString& komut, const QVariantList& degerler = {})
+    {
+        Veritabani vt(klasor(), Dosya::Genel);
+        QSqlQuery q = vt.Sorgu(komut, degerler);
+        QStringList sonuc;
+        while (q.isSelect() && q.next())
+            sonuc << q.value(0).toString();
+        return sonuc;
+    }
+    // A small plan whose names sort differently in Turkish than by code.
+    void planKur()
+    {
+        sql(QStringLiteral("delete from HESAP_K"));
+        sql(QStringLiteral("insert into HESAP_K (HesapKod, HesapAd) values ('150', 'İlkmadde-Malzeme'), "
+                           "('150 01', 'Çay Ocağı'), ('150 02', 'Cam Eşya'), ('150 02 01', 'Dolap'), "
+                           "('253', 'Tesis-Cihazlar'), ('253 01', 'Işıklandırma')"));
+    }
+    static QStringList kodlar(const QList<QStringList>& satirlar)
+    {
+        QStringList sonuc;
+        for (const QStringList& s : satirlar)
+            sonuc << s.value(0);
+        return sonuc;
+    }
+
+    void ac()
+    {
+        planKur();
+        m_ekran = new HESAP_K({QStringLiteral("2026"), QStringLiteral("3"), QStringLiteral("Okul"), klasor()});
+        m_ekran->show();
+        etkinlestir();
+    }
+    // The offscreen platform does not give the screen back its activation
+    // when a message box closes.
+    void etkinlestir()
+    {
+        m_ekran->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_ekran));
+    }
+    template <typename T = QLineEdit>
+    T* kontrol(const QString& ad) const
+    {
+        return m_ekran->findChild<T*>(ad);
+    }
+    QString metin(const char* kutu) const { return kontrol(QString::fromLatin1(kutu))->text(); }
+    QStringList izgaraKodlari() const
+    {
+        auto* t = kontrol<ListeIzgarasi>(QStringLiteral("T"));
+        QStringList sonuc;
+        for (int r = 1; r < t->Rows(); ++r)
+            sonuc << t->TextMatrix(r, 0);
+        return sonuc;
+    }
+    static QString odak() { return QApplication::focusWidget()->objectName(); }
+    static void tus(int kod) { QTest::keyClick(QApplication::focusWidget(), Qt::Key(kod)); }
+    // Types the code into the emptied code box, which keeps the focus.
+    void kodYaz(const QString& kod)
+    {
+        QLineEdit* k = kontrol(QStringLiteral("HesapKod"));
+        k->setFocus();
+        k->clear();
+        QTest::keyClicks(k, kod);
+    }
+
+private slots:
+    void init() { m_tmp = std::make_unique<QTemporaryDir>(); }
+    void cleanup() { delete m_ekran; }
+
+    void liste_data()
+    {
+        QTest::addColumn<QString>("kodSuzgeci");
+        QTest::addColumn<QString>("adSuzgeci");
+        QTest::addColumn<Sira>("sira");
+        QTest::addColumn<QStringList>("beklenen");
+        QTest::newRow("kod sırası") << "" << "" << Sira::HesapKod
+                                    << QStringList{"150", "150 01", "150 02", "150 02 01", "253", "253 01"};
+        QTest::newRow("ad sırası Türkçe") << "" << "" << Sira::HesapAd
+                                          << QStringList{"150 02", "150 01", "150 02 01", "253 01", "150", "253"};
+        QTest::newRow("kod kırpılır") << "  150 02 " << "" << Sira::HesapKod << QStringList{"150 02", "150 02 01"};
+        QTest::newRow("noktasız i") << "" << "ı" << Sira::HesapKod << QStringList{"253 01"};
+        QTest::newRow("noktalı i") << "" << "i" << Sira::HesapKod << QStringList{"150"};
+        QTest::newRow("ad süzgeci kazanır") << "253" << "cam" << Sira::HesapKod << QStringList{"150 02"};
+        QTest::newRow("yalnız baştan") << "" << "Ocağı" << Sira::HesapKod << QStringList{};
+    }
+    void liste()
+    {
+        QFETCH(QString, kodSuzgeci);
+        QFETCH(QString, adSuzgeci);
+        QFETCH(Sira, sira);
+        planKur();
+        QTEST(kodlar(HesapPlani::Liste(klasor(), kodSuzgeci, adSuzgeci, sira)), "beklenen");
+    }
+
+    // The level tests consumers run, on the plan a new data folder gets.
+    void teslimPlaniDuzeyleri_data()
+    {
+        QTest::addColumn<QString>("kosul");
+        QTest::addColumn<int>("uzunluk");
+        QTest::newRow("ana") << "Len(HesapKod) = 3" << 3;
+        QTest::newRow("1. düzey") << "Mid(HesapKod,6,1) <> '' and Mid(HesapKod,8,1) = ''" << 6;
+        QTest::newRow("1. düzey, öbür yazım") << "mid(HesapKod, 8, 1) = '' and mid(HesapKod, 5, 1) <> ''" << 6;
+        QTest::newRow("2. düzey") << "Mid(HesapKod,11,1) = '' and Mid(HesapKod,9,1) <> ''" << 9;
+        QTest::newRow("2. düzey, öbür yazım") << "mid(HesapKod,11,1) = '' and mid(HesapKod,8,1) <> ''" << 9;
+    }
+    void teslimPlaniDuzeyleri()
+    {
+        QFETCH(QString, kosul);
+        QFETCH(int, uzunluk);
+        QStringList beklenen;
+        for (const auto& [kod, ad] : Sema::KodListesi())
+            if (kod.size() == uzunluk)
+                beklenen << kod;
+        beklenen.sort();
+        QVERIFY(!beklenen.isEmpty());
+        QCOMPARE(sql(QStringLiteral("select HesapKod from HESAP_K where %1 order by 1").arg(kosul)), beklenen);
+    }
+
+    void kaydet_data()
+    {
+        QTest::addColumn<QString>("kod");
+        QTest::addColumn<QString>("ad");
+        QTest::addColumn<QString>("saklanan");
+        QTest::addColumn<QString>("grup");  // positions 5 to 6, the level 1 group
+        QTest::addColumn<QString>("adSuzgeci");
+        QTest::newRow("sonda boşluk kırpılır") << " 150 09 " << "  Yeni Sınıf " << "150 09" << "09" << "yeni";
+        QTest::newRow("iki boşluk yazıldığı gibi") << "150  09" << "Arada" << "150  09" << " 0" << "arada";
+        QTest::newRow("kesme işareti veridir") << "150 10" << "O'Neil'in Çayı" << "150 10" << "10" << "o'neil";
+    }
+    void kaydet()
+    {
+        QFETCH(QString, kod);
+        QFETCH(QString, ad);
+        QFETCH(QString, saklanan);
+        QFETCH(QString, adSuzgeci);
+        HesapPlani::Kaydet(klasor(), kod, ad);
+        // Each passes the level 1 test, which reads fixed positions only.
+        QTEST(sql(QStringLiteral("select Mid(HesapKod,5,2) from HESAP_K where HesapKod = ? and "
+                                 "Mid(HesapKod,6,1) <> '' and Mid(HesapKod,8,1) = ''"),
+                  {saklanan})
+                  .value(0),
+              "grup");
+        QCOMPARE(HesapPlani::Getir(klasor(), kod), std::optional<QString>(ad.trimmed()));
+        QCOMPARE(HesapPlani::Liste(klasor(), {}, adSuzgeci, Sira::HesapKod),
+                 (QList<QStringList>{{saklanan, ad.trimmed()}}));
+    }
+
+    void kaydetVarOlaniDegistirir()
+    {
+        HesapPlani::Kaydet(klasor(), QStringLiteral("150 01 "), QStringLiteral("Kırtasiye"));
+        QCOMPARE(sql(QStringLiteral("select HesapAd from HESAP_K where HesapKod = '150 01'")),
+                 QStringList{"Kırtasiye"});
+        QCOMPARE(HesapPlani::Getir(klasor(), QStringLiteral("999 99")), std::nullopt);
+    }
+
+    // The delete takes the code untrimmed; nothing under the code goes with it.
+    void sil_data()
+    {
+        QTest::addColumn<QString>("kod");
+        QTest::addColumn<bool>("kalir");
+        QTest::newRow("kod") << "150 02" << false;
+        QTest::newRow("sonda boşlukla") << "150 02 " << true;
+    }
+    void sil()
+    {
+        QFETCH(QString, kod);
+        planKur();
+        sql(QStringLiteral("insert into URUN_K (HesapKod, MalzAdi) values ('150 02 01 001', 'Vazo')"));
+        QVERIFY(HesapPlani::Var(klasor(), kod));
+        HesapPlani::Sil(klasor(), kod);
+        QTEST(HesapPlani::Var(klasor(), kod), "kalir");
+        QCOMPARE(HesapPlani::Getir(klasor(), QStringLiteral("150 02 01")), std::optional<QString>("Dolap"));
+        QCOMPARE(sql(QStringLiteral("select MalzAdi from URUN_K where Mid(HesapKod,1,6) = '150 02'")),
+                 QStringList{"Vazo"});
+    }
+
+    void kodAdimi_data()
+    {
+        QTest::addColumn<QString>("kod");
+        QTest::addColumn<Adim>("adim");
+        QTest::addColumn<QString>("sonuc");  // null: not a number, refused
+        QTest::addColumn<bool>("getir");
+        QTest::newRow("PgDn") << " 0150 " << Adim::SayfaAsagi << "151" << true;
+        QTest::newRow("PgDn blank") << " " << Adim::SayfaAsagi << "1" << true;
+        QTest::newRow("PgDn boş") << "" << Adim::SayfaAsagi << "" << false;
+        QTest::newRow("PgDn boşluklu kod") << "150 01" << Adim::SayfaAsagi << QString() << false;
+        QTest::newRow("PgUp 1") << "1" << Adim::SayfaYukari << "0" << true;
+        QTest::newRow("PgUp 0") << "0" << Adim::SayfaYukari << "0" << false;
+        QTest::newRow("PgUp harf") << "abc" << Adim::SayfaYukari << "abc" << false;
+        QTest::newRow("BT yukarı") << "254" << Adim::BTYukari << "255" << true;
+        QTest::newRow("BT yukarı harf") << "abc" << Adim::BTYukari << QString() << false;
+        QTest::newRow("BT aşağı boş") << "" << Adim::BTAsagi << "0" << false;
+        QTest::newRow("BT aşağı blank") << " " << Adim::BTAsagi << " " << false;
+        QTest::newRow("BT aşağı boşluklu kod") << "150 01" << Adim::BTAsagi << QString() << false;
+    }
+    void kodAdimi()
+    {
+        QFETCH(QString, kod);
+        QFETCH(Adim, adim);
+        QFETCH(QString, sonuc);
+        if (sonuc.isNull()) {
+            QVERIFY_THROWS_EXCEPTION(Hata, HesapPlani::KodAdimi(kod, adim));
+            return;
+        }
+        const HesapPlani::AdimSonucu s = HesapPlani::KodAdimi(kod, adim);
+        QCOMPARE(s.HesapKod, sonuc);
+        QTEST(s.Getir, "getir");
+    }
+
+    void yaz()
+    {
+        const QString uzun = QStringLiteral("150 01 04 001 02 03 04");
+        BellekCikti cikti;
+        Yazici p(&cikti);
+        HesapPlani::Yaz(p, Izgara({{"HesapKod", "Adı"}, {uzun, "Uzun"}, {"253", "Tesis"}}, {1600, 8000}), 2, 9);
+        QCOMPARE(cikti.belgeler.size(), 1);
+        const Sayfa& sayfa = cikti.belgeler[0].value(0);
+        QCOMPARE(sayfa.yon, QPageLayout::Landscape);
+        QCOMPARE(sayfa.yazilar.size(), 4);  // no heading
+        QCOMPARE(sayfa.yazilar[0].punto, 9.0);
+        const double satir = p.TextHeight(), sutun = p.SutunGenisligi();
+        QCOMPARE(sayfa.MetinNerede(sutun, satir), uzun.left(19));  // under one empty line
+        QCOMPARE(sayfa.MetinNerede(22 * sutun, satir), QStringLiteral("Uzun"));
+        QCOMPARE(sayfa.MetinNerede(22 * sutun, 2 * satir), QStringLiteral("Tesis"));
+
+        QList<QStringList> satirlar{{}};
+        for (int i = 1; i <= 150; ++i)
+            satirlar.append({QString::number(i), QStringLiteral("Ad")});
+        HesapPlani::Yaz(p, Izgara(satirlar, {1600, 8000}), 1, 12);
+        const Belge& uzunBelge = cikti.belgeler.value(1);
+        QVERIFY(uzunBelge.size() > 1);
+        qsizetype yazi = 0;
+        for (const Sayfa& s : uzunBelge) {
+            yazi += s.yazilar.size();
+            QCOMPARE(s.yazilar[0].y, &s == &uzunBelge[0] ? p.TextHeight() : 0.0);
+            QVERIFY(s.yazilar.last().y + p.TextHeight() <= s.KagitBoyu().height() - 2 * KenarTwip);
+        }
+        QCOMPARE(yazi, 300);
+    }
+
+    // The keys of the code box and of the name box.
+    void kutuTuslari_data()
+    {
+        QTest::addColumn<QString>("kutu");
+        QTest::addColumn<QString>("kod");
+        QTest::addColumn<int>("tusu");
+        QTest::addColumn<QString>("sonKod");
+        QTest::addColumn<QString>("ad");
+        QTest::addColumn<QString>("odakta");
+        const QString k = QStringLiteral("HesapKod"), a = QStringLiteral("HesapAd");
+        QTest::newRow("var, Enter") << k << "150 01" << int(Qt::Key_Return) << "150 01" << "Çay Ocağı" << k;
+        QTest::newRow("yok, Enter") << k << "999" << int(Qt::Key_Return) << "999" << "" << a;
+        QTest::newRow("var, aşağı") << k << "150 01" << int(Qt::Key_Down) << "150 01" << "Çay Ocağı" << a;
+        QTest::newRow("yukarı") << k << "150 01" << int(Qt::Key_Up) << "150 01" << "eski" << k;
+        QTest::newRow("Home") << k << "abc" << int(Qt::Key_Home) << "1" << "" << a;
+        QTest::newRow("PgDn") << k << "149" << int(Qt::Key_PageDown) << "150" << "İlkmadde-Malzeme" << k;
+        QTest::newRow("PgUp") << k << "254" << int(Qt::Key_PageUp) << "253" << "Tesis-Cihazlar" << k;
+        QTest::newRow("PgUp 0") << k << "0" << int(Qt::Key_PageUp) << "0" << "eski" << k;
+        QTest::newRow("ad, Enter") << a << "150" << int(Qt::Key_Return) << "150" << "eski" << a;
+        QTest::newRow("ad, aşağı") << a << "150" << int(Qt::Key_Down) << "150" << "eski" << a;
+        QTest::newRow("ad, yukarı") << a << "150" << int(Qt::Key_Up) << "150" << "eski" << k;
+    }
+    void kutuTuslari()
+    {
+        QFETCH(QString, kutu);
+        QFETCH(int, tusu);
+        QFETCH(QString, kod);
+        QFETCH(QString, ad);
+        ac();
+        kontrol(QStringLiteral("HesapAd"))->setText(QStringLiteral("eski"));
+        kodYaz(kod);
+        kontrol(kutu)->setFocus();
+        tus(tusu);
+        QTEST(metin("HesapKod"), "sonKod");
+        QCOMPARE(metin("HesapAd"), ad);
+        QTEST(odak(), "odakta");
+        QCOMPARE(kontrol<QPushButton>(QStringLiteral("c2"))->isEnabled(), !ad.isEmpty());
+    }
+
+    void oklar()
+    {
+        ac();
+        kodYaz(QStringLiteral("252"));
+        QTest::mouseClick(kontrol<QToolButton>(QStringLiteral("BTYukari")), Qt::LeftButton);
+        QCOMPARE(metin("HesapAd"), QStringLiteral("Tesis-Cihazlar"));
+        kodYaz(QString());
+        QTest::mouseClick(kontrol<QToolButton>(QStringLiteral("BTAsagi")), Qt::LeftButton);
+        QCOMPARE(metin("HesapKod"), QStringLiteral("0"));
+        kodYaz(QStringLiteral("150 01"));
+        ModalYanit y(QStringLiteral("Tamam"));
+        tus(Qt::Key_PageDown);
+        QVERIFY(y.Goruldu());
+        QCOMPARE(metin("HesapKod"), QStringLiteral("150 01"));
+    }
+
+    void yeniHesapKaydedilirVeListelenir()
+    {
+        ac();
+        kodYaz(QStringLiteral("  "));
+        kontrol(QStringLiteral("HesapAd"))->setText(QStringLiteral("Adsız"));
+        QTest::mouseClick(kontrol<QPushButton>(QStringLiteral("c2")), Qt::LeftButton);
+        QVERIFY(!m_ekran->DurumSatiri()->isVisible());  // a blank code is not saved
+        kodYaz(QStringLiteral("150 09 "));
+        tus(Qt::Key_Return);
+        QCOMPARE(odak(), QStringLiteral("HesapAd"));
+        QVERIFY(!kontrol<QPushButton>(QStringLiteral("c2"))->isEnabled());
+        TurkceYaz(kontrol(QStringLiteral("HesapAd")), QStringLiteral("Yeni Sınıf"));
+        QVERIFY(kontrol<QPushButton>(QStringLiteral("c2"))->isEnabled());
+        tus(Qt::Key_F1);
+        QCOMPARE(m_ekran->DurumSatiri()->text(), QStringLiteral("    Kayıt Başarılı  ..  "));
+        QVERIFY(m_ekran->DurumSatiri()->isVisible());
+        QCOMPARE(sql(QStringLiteral("select HesapKod || '|' || HesapAd from HESAP_K where HesapKod like '150 09%'")),
+                 QStringList{"150 09|Yeni Sınıf"});
+        QVERIFY(!izgaraKodlari().contains(QStringLiteral("150 09")));  // a save leaves the list as it was
+        tus(Qt::Key_F3);
+        QVERIFY(izgaraKodlari().contains(QStringLiteral("150 09")));
+        QCOMPARE(metin("HesapKod") + metin("HesapAd"), QString());
+        QTest::mouseMove(kontrol<ListeIzgarasi>(QStringLiteral("T"))->viewport(), QPoint(20, 20));
+        QTRY_VERIFY(!m_ekran->DurumSatiri()->isVisible());
+    }
+
+    void kayitHatasiBasariDemez()
+    {
+        ac();
+        sql(QStringLiteral("create trigger kilit before update on HESAP_K begin select raise(abort, 'x'); end"));
+        kodYaz(QStringLiteral("150 01"));
+        ModalYanit y(QStringLiteral("Tamam"));
+        tus(Qt::Key_F1);
+        QVERIFY(y.Goruldu());
+        QCOMPARE(y.Metin(), QStringLiteral("  Kayıt yapılamıyor.  "));
+        QCOMPARE(m_ekran->DurumSatiri()->text(), y.Metin());
+    }
+
+    void f5Sorar()
+    {
+        ac();
+        kodYaz(QStringLiteral("253 01"));
+        tus(Qt::Key_Return);
+        for (const QString& cevap : QStringList{"Hayır", "Evet"}) {
+            etkinlestir();
+            ModalYanit y(cevap);
+            tus(Qt::Key_F5);
+            QCOMPARE(y.Metin(), QStringLiteral(" Bu Hesap No yu Silmek istiyor musunuz ?"));
+            QCOMPARE(y.Baslik(), QStringLiteral("Siliniyor"));
+            const bool kalir = cevap == u"Hayır";
+            QCOMPARE(HesapPlani::Var(klasor(), QStringLiteral("253 01")), kalir);
+            QCOMPARE(metin("HesapKod").isEmpty() && metin("HesapAd").isEmpty(), !kalir);
+        }
+    }
+
+    void suzgeclerVeSira()
+    {
+        ac();
+        kontrol(QStringLiteral("HesapKod1"))->setFocus();
+        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("150"));
+        QCOMPARE(izgaraKodlari(), (QStringList{"150", "150 01", "150 02", "150 02 01"}));
+        kontrol(QStringLiteral("HesapAd1"))->setFocus();
+        TurkceYaz(QApplication::focusWidget(), QStringLiteral("ı"));
+        QCOMPARE(izgaraKodlari(), QStringList{"253 01"});
+        tus(Qt::Key_Backspace);
+        QTest::mouseClick(kontrol<QRadioButton>(QStringLiteral("Op2")), Qt::LeftButton);
+        QCOMPARE(izgaraKodlari(), (QStringList{"150 02", "150 01", "150 02 01", "150"}));
+    }
+
+    // A row whose code reads as 0 or less is not taken; F4 empties the card.
+    void ciftTiklamaVeF4()
+    {
+        ac();
+        HesapPlani::Kaydet(klasor(), QStringLiteral("0"), QStringLiteral("Sıfır"));
+        tus(Qt::Key_F3);
+        auto* t = kontrol<ListeIzgarasi>(QStringLiteral("T"));
+        for (const int satir : {1, 3}) {
+            // The widget form of mouseDClick sends no press before the double click.
+            const QPoint yer = t->visualRect(t->model()->index(satir - 1, 0)).center();
+            QTest::mouseClick(t->viewport(), Qt::LeftButton, {}, yer);
+            QTest::mouseDClick(t->viewport(), Qt::LeftButton, {}, yer);
+            QCOMPARE(metin("HesapKod") + u'|' + metin("HesapAd"), satir == 1 ? "|" : "150 01|Çay Ocağı");
+        }
+        tus(Qt::Key_F4);
+        QCOMPARE(odak(), QStringLiteral("HesapKod"));
+        QCOMPARE(metin("HesapKod") + metin("HesapAd"), QString());
+    }
+
+    void yazdir_data()
+    {
+        QTest::addColumn<QString>("yon");
+        QTest::addColumn<QString>("boy");
+        QTest::addColumn<QPageLayout::Orientation>("sayfaYonu");
+        QTest::newRow("yatay") << "OpYat" << "11" << QPageLayout::Landscape;
+        QTest::newRow("dikey") << "OpDik" << "7" << QPageLayout::Portrait;
+        QTest::newRow("boy sayı değil") << "OpDik" << "x" << QPageLayout::Portrait;
+    }
+    void yazdir()
+    {
+        QFETCH(QString, yon);
+        QFETCH(QString, boy);
+        ac();
+        BellekCikti cikti;
+        m_ekran->CiktiSec(&cikti);
+        QTest::mouseClick(kontrol<QRadioButton>(yon), Qt::LeftButton);
+        kontrol(QStringLiteral("YaziBoy"))->setFocus();
+        kontrol(QStringLiteral("YaziBoy"))->selectAll();
+        QTest::keyClicks(QApplication::focusWidget(), boy);
+        ModalYanit y(QStringLiteral("Tamam"));
+        tus(Qt::Key_F2);
+        if (boy == u"x") {
+            QCOMPARE(y.Metin(), QStringLiteral("7 ile 12 Arası Rakam olmalı."));
+            QVERIFY(cikti.belgeler.isEmpty());
+            return;
+        }
+        const Sayfa& sayfa = cikti.belgeler.value(0).value(0);
+        QTEST(sayfa.yon, "sayfaYonu");
+        QCOMPARE(sayfa.yazilar.size(), 12);
+        QCOMPARE(sayfa.yazilar[0].punto, boy.toDouble());
+        QCOMPARE(sayfa.yazilar[10].metin, QStringLiteral("253 01"));
+    }
+};
+
+QTEST_MAIN(TstHesapPlani)
+#include "tst_hesap_plani.moc"

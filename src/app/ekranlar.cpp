@@ -1,7 +1,10 @@
 #include "ekranlar.h"
 
+#include "hesap_k.h"
 #include "menu.h"
 #include "sabit.h"
+#include "sinif_tani.h"
+#include "unite_tani.h"
 
 #include <QPointer>
 
@@ -26,8 +29,18 @@ EkranAcici tekOrnek(Kur kur)
 
 }
 
+// A form the menu only shows, with no mode values to take.
+template <typename Form>
+EkranAcici yalnizAc()
+{
+    return tekOrnek<Form>([](Form&, const QVariantMap&) {});
+}
+
 void EkranlariTanimla(Menu& menu)
 {
+    menu.EkranTanimla(QStringLiteral("HESAP_K"), yalnizAc<HESAP_K>());
+    menu.EkranTanimla(QStringLiteral("SinifTani"), yalnizAc<SinifTani>());
+    menu.EkranTanimla(QStringLiteral("Unite_TANI"), yalnizAc<Unite_TANI>());
     menu.EkranTanimla(QStringLiteral("Sabit"), tekOrnek<Sabit>([&menu](Sabit& sabit, const QVariantMap&) {
         QObject::connect(&sabit, &Sabit::CalismaDegisti, &menu, &Menu::CalismaAyarla);
     }));

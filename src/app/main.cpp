@@ -3,14 +3,13 @@
 
 #include "cikti.h"
 #include "ekranlar.h"
-#include "grid_yazdir.h"
-#include "izgara.h"
 #include "kod_plani_yukle.h"
 #include "menu.h"
 #include "ornek_veri.h"
 #include "oturum.h"
 #include "parola.h"
 #include "tek_deger.h"
+#include "unite_tanim.h"
 #include "veri_klasoru.h"
 #include "veritabani.h"
 #include "yazici.h"
@@ -29,19 +28,13 @@ void hataYaz(const QString& mesaj)
     std::fprintf(stderr, "%s\n", qPrintable(mesaj));
 }
 
-// The unit list as the unit screen prints it.
+// The unit list as the unit screen's print button gives it.
 void uniteListesiYazdir(const QString& klasor, Yazici& p)
 {
     Veritabani vt(klasor, Dosya::Genel);
     const QString kurum = AlanGetir(vt, QStringLiteral("Sabit"), QStringLiteral("KurumAdi"),
                                     QStringLiteral(" where Anahtar = 1 "));
-    QList<QStringList> satirlar{{QStringLiteral("Ünite Kod"), QStringLiteral("Ünite Adı")}};
-    QSqlQuery q = vt.Sorgu(QStringLiteral("Select UniteKod, UniteAd from Unite_K order by val(UniteKod)"));
-    while (q.next())
-        satirlar.append({q.value(0).toString(), q.value(1).toString()});
-    GridYazdir(p, kurum + QStringLiteral(" - ") + QStringLiteral("Bilet Listesi       Tarih :"),
-               Izgara(satirlar, {1000, 3790}));
-    p.EndDoc();
+    UniteTanim::UniteListesiYazdir(klasor, kurum, p);
 }
 
 int ornekVeri(const QStringList& argumanlar, const QString& satirMetni)

@@ -1,5 +1,6 @@
 #include "ornek_veri.h"
 
+#include "fis_kayit.h"
 #include "saat.h"
 #include "veri_klasoru.h"
 #include "veritabani.h"
@@ -521,7 +522,6 @@ struct Sinif
     bool bolunur;
     qint64 fiyat;  // kuruş
     int miktarUst;
-    QString sicilKok;
     QStringList ozellikler;
 };
 
@@ -584,42 +584,6 @@ int miktarUstu(bool tuketim, qint64 fiyat)
     return lira < 1000 ? 30 : lira < 10000 ? 10 : lira < 100000 ? 3 : 1;
 }
 
-// One prepared insert, run once per row.
-class Yazici
-{
-public:
-    Yazici(Veritabani& vt, const QString& sql)
-        : m_sorgu(vt.Baglanti()), m_dosya(QFileInfo(vt.Yol()).fileName())
-    {
-        if (!m_sorgu.prepare(sql))
-            throw hata();
-    }
-
-    // An empty text is written as such: the driver would bind a null
-    // QString as NULL, which the system never leaves in a text column.
-    void Yaz(std::initializer_list<QVariant> degerler)
-    {
-        int sira = 0;
-        for (const QVariant& deger : degerler) {
-            const bool bosMetin = deger.typeId() == QMetaType::QString
-                                  && static_cast<const QString*>(deger.constData())->isNull();
-            m_sorgu.bindValue(sira++, bosMetin ? QVariant(QStringLiteral("")) : deger);
-        }
-        if (!m_sorgu.exec())
-            throw hata();
-    }
-
-private:
-    VeriHatasi hata() const
-    {
-        return VeriHatasi(
-            QStringLiteral("Veri tabanı hatası (%1): %2").arg(m_dosya, m_sorgu.lastError().text()));
-    }
-
-    QSqlQuery m_sorgu;
-    QString m_dosya;
-};
-
 void bosOlmali(Veritabani& vt, std::initializer_list<const char*> tablolar, const QString& klasor)
 {
     for (const char* tablo : tablolar) {
@@ -644,7 +608,7 @@ void sabitleriYaz(Veritabani& vt)
 
 std::vector<Sinif> siniflariYaz(Veritabani& vt, Zar& zar)
 {
-    Yazici yazici(vt, QStringLiteral("insert into URUN_K (HesapKod, MalzAdi, Birimi, KDV1, Barkod, Stok, EskiKod,"
+    HazirKomut yazici(vt, QStringLiteral("insert into URUN_K (HesapKod, MalzAdi, Birimi, KDV1, Barkod, Stok, EskiKod,"
                                      " AnaHesapNo) values (?, ?, ?, ?, ?, ?, '', ?)"));
     std::vector<Sinif> siniflar;
     QString oncekiKod;
@@ -663,7 +627,6 @@ std::vector<Sinif> siniflariYaz(Veritabani& vt, Zar& zar)
                                     [&](const char* birim) { return sinif.birim == QString::fromUtf8(birim); });
         sinif.fiyat = zar.Aralik(qint64(tanim.fiyatAlt) * 100, qint64(tanim.fiyatUst) * 100);
         sinif.miktarUst = miktarUstu(sinif.tuketim, sinif.fiyat);
-        sinif.sicilKok = QString(sinif.kod).remove(u' ');
         const QString ad = QString::fromUtf8(tanim.ad);
         sinif.ozellikler.append(ad.left(30));
         if (!sinif.tuketim)
@@ -675,7 +638,7 @@ std::vector<Sinif> siniflariYaz(Veritabani& vt, Zar& zar)
 
         const int stok = sinif.tuketim ? 5 + zar.Sayi(16) : 0;
         const QString kod = sinif.tuketim && zar.Yuzde(60) ? barkod(zar) : QString();
-        yazici.Yaz({sinif.kod, ad, sinif.birim, QString::number(sinif.kdv), kod, stok, sinif.kod.left(3).toInt()});
+        yazici.Calistir({sinif.kod, ad, sinif.birim, QString::number(sinif.kdv), kod, stok, sinif.kod.left(3).toInt()});
         siniflar.push_back(std::move(sinif));
     }
     return siniflar;
@@ -683,15 +646,15 @@ std::vector<Sinif> siniflariYaz(Veritabani& vt, Zar& zar)
 
 void uniteleriYaz(Veritabani& vt)
 {
-    Yazici yazici(vt, QStringLiteral("insert into Unite_K (UniteKod, UniteAd) values (?, ?)"));
+    HazirKomut yazici(vt, QStringLiteral("insert into Unite_K (UniteKod, UniteAd) values (?, ?)"));
     int kod = 0;
     for (const char* ad : uniteler)
-        yazici.Yaz({QString::number(++kod), QString::fromUtf8(ad)});
+        yazici.Calistir({QString::number(++kod), QString::fromUtf8(ad)});
 }
 
 std::vector<Firma> firmalariYaz(Veritabani& vt, const std::vector<Sinif>& siniflar, Zar& zar)
 {
-    Yazici yazici(vt, QStringLiteral("insert into Firma_K (FirmaKod, FirmaAd, VergiNo, VergiDaire, Telefon, Adres)"
+    HazirKomut yazici(vt, QStringLiteral("insert into Firma_K (FirmaKod, FirmaAd, VergiNo, VergiDaire, Telefon, Adres)"
                                      " values (?, ?, ?, ?, ?, ?)"));
     std::vector<Firma> liste;
     int kod = 0;
@@ -706,7 +669,7 @@ std::vector<Firma> firmalariYaz(Veritabani& vt, const std::vector<Sinif>& sinifl
                             [&](const QString& onek) { return siniflar[i].kod.startsWith(onek); }))
                 firma.siniflar.push_back(i);
         const QString vergiNo = QString::number(zar.Aralik(1000000000LL, 4999999999LL));
-        yazici.Yaz({QString::number(++kod), firma.ad, vergiNo, QString::fromUtf8(tanim.vergiDaire),
+        yazici.Calistir({QString::number(++kod), firma.ad, vergiNo, QString::fromUtf8(tanim.vergiDaire),
                     QString::fromUtf8(tanim.telefon), QString::fromUtf8(tanim.adres)});
         liste.push_back(std::move(firma));
     }
@@ -752,14 +715,7 @@ public:
         : m_siniflar(siniflar),
           m_firmalar(firmalar),
           m_zar(zar),
-          m_baslik(vt, QStringLiteral("insert into FIS_B (FisNo, Tarih, FCins, KabulSayi, KabulTarih, TeslimAlan,"
-                                      " NeredenGeldigi, Ozellik, BelgeTarih, BelgeSayi, BelgeTur)"
-                                      " values (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)")),
-          m_satir(vt, QStringLiteral("insert into FIS (Tarih, FisNo, FCins, FCinss, Satir, HesapKod, Ozellik,"
-                                     " SicilNo, Miktar, Cikan, Birimi, BirimFiyat, KDV, Unite, IslemTur,"
-                                     " KimeVerildigi, AmbarNo, OzelKod, BelgeTarih, BelgeSayi, KabulSayi,"
-                                     " KabulTarih) values (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?,"
-                                     " ?, ?, ?, ?)")),
+          m_vt(vt),
           m_stok(siniflar.size(), 0),
           m_konum(siniflar.size(), -1),
           m_faturaSira(firmalar.size(), 0)
@@ -950,20 +906,30 @@ private:
         return std::max(birim, kurus / birim * birim);
     }
 
+    // Through the voucher's own save, as a user would have typed it.
     void yaz(const Bas& bas)
     {
-        m_baslik.Yaz({bas.fisNo, bas.tarih, bas.fcins, bas.kabulSayi, bas.tarih, bas.teslimAlan,
-                      bas.neredenGeldigi, m_satirlar.front().ozellik.left(35), bas.belgeTarih, bas.belgeSayi,
-                      bas.belgeTur});
-        const QString sicilSonu = m_yilMetni + QString::number(bas.fisNo) + u'0';
-        int sira = 0;
+        FisEkrani fis;
+        fis.FisNo = QString::number(bas.fisNo);
+        fis.Tarih = bas.tarih;
+        fis.FCins = fis.Hangi = bas.fcins;
+        fis.CalisYil = m_yilMetni;
+        fis.CalisAy = bas.tarih.mid(3, 2);
+        fis.KabulSayi = bas.kabulSayi;
+        fis.KabulTarih = bas.tarih;
+        fis.TeslimAlan = bas.teslimAlan;
+        fis.NeredenGeldigi = bas.neredenGeldigi;
+        fis.BelgeTur = bas.belgeTur;
+        fis.BelgeSayi = bas.belgeSayi;
         for (const Satir& satir : m_satirlar) {
             const Sinif& sinif = m_siniflar[std::size_t(satir.sinif)];
-            m_satir.Yaz({bas.tarih, bas.fisNo, bas.fcins, QString(), ++sira, sinif.kod, satir.ozellik,
-                         sinif.sicilKok + sicilSonu, satir.miktar, satir.cikan, sinif.birim, satir.fiyat, sinif.kdv,
-                         satir.unite, satir.islemTur, satir.kisi, ambarNo, QString(), bas.belgeTarih, bas.belgeSayi,
-                         bas.kabulSayi, bas.tarih});
+            fis.Satirlar.append({QString(), sinif.kod, QString(), satir.ozellik, sinif.birim, satir.miktar,
+                                 satir.fiyat, bas.belgeTarih, satir.unite, QString::number(satir.islemTur),
+                                 satir.cikan, satir.kisi, QString::number(ambarNo), QString::number(sinif.kdv),
+                                 QString(), QString(), QString()});
         }
+        if (FisKayit::Kaydet(m_vt, fis, [] { return true; }) != KayitSonucu::Kaydedildi)
+            throw VeriHatasi(QStringLiteral("Örnek fiş kaydedilemedi: %1").arg(fis.FisNo));
     }
 
     int stoktakiSinifSayisi() const { return int(m_stokta[0].size() + m_stokta[1].size()); }
@@ -989,8 +955,7 @@ private:
     const std::vector<Sinif>& m_siniflar;
     const std::vector<Firma>& m_firmalar;
     Zar& m_zar;
-    Yazici m_baslik;
-    Yazici m_satir;
+    Veritabani& m_vt;
     std::vector<qint64> m_stok;
     std::vector<int> m_konum;
     std::vector<int> m_stokta[2];  // consumables, durables

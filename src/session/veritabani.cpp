@@ -183,16 +183,22 @@ int Veritabani::Calistir(const QString& sql, const QVariantList& degerler)
     return Sorgu(sql, degerler).numRowsAffected();
 }
 
-Islem::Islem(Veritabani& vt) : m_vt(vt)
+Islem::Islem(Veritabani& vt)
+    : m_vt(vt), m_ic(sqlite3_get_autocommit(static_cast<sqlite3*>(vt.Tutamac())) == 0)
 {
-    m_vt.Calistir(QStringLiteral("BEGIN IMMEDIATE"));
+    m_vt.Calistir(m_ic ? QStringLiteral("SAVEPOINT islem") : QStringLiteral("BEGIN IMMEDIATE"));
 }
 
 Islem::~Islem()
 {
     if (m_acik) {
         try {
-            m_vt.Calistir(QStringLiteral("ROLLBACK"));
+            if (m_ic) {
+                m_vt.Calistir(QStringLiteral("ROLLBACK TO islem"));
+                m_vt.Calistir(QStringLiteral("RELEASE islem"));
+            } else {
+                m_vt.Calistir(QStringLiteral("ROLLBACK"));
+            }
         } catch (const VeriHatasi&) {
             // Nothing more can be done; the engine drops the open transaction
             // when the connection closes.
@@ -202,6 +208,6 @@ Islem::~Islem()
 
 void Islem::Onayla()
 {
-    m_vt.Calistir(QStringLiteral("COMMIT"));
+    m_vt.Calistir(m_ic ? QStringLiteral("RELEASE islem") : QStringLiteral("COMMIT"));
     m_acik = false;
 }

@@ -60,7 +60,9 @@ private:
 };
 
 // Writes that belong together: BEGIN IMMEDIATE now, ROLLBACK unless Onayla
-// ran. A failure anywhere leaves the file as it was.
+// ran. A failure anywhere leaves the file as it was. Inside a transaction
+// already open it is a savepoint of that one, so that a routine that writes
+// in one piece can also be part of a larger piece.
 class Islem
 {
 public:
@@ -72,5 +74,6 @@ public:
 
 private:
     Veritabani& m_vt;
+    bool m_ic;
     bool m_acik = true;
 };

@@ -89,6 +89,12 @@ QString FisKayit::SicilNo(const QString& hesapKod, const QString& yil, const QSt
 
 KayitSonucu FisKayit::Kaydet(const QString& klasor, FisEkrani& fis, const std::function<bool()>& aySorusu)
 {
+    Veritabani vt(klasor, Dosya::Ayniyat);
+    return Kaydet(vt, fis, aySorusu);
+}
+
+KayitSonucu FisKayit::Kaydet(Veritabani& vt, FisEkrani& fis, const std::function<bool()>& aySorusu)
+{
     if (fis.FisNo.trimmed().isEmpty() || Val(fis.FisNo) == 0)
         return KayitSonucu::FisNoYok;
     if (fis.Hucre(1, 1).isEmpty())
@@ -98,7 +104,6 @@ KayitSonucu FisKayit::Kaydet(const QString& klasor, FisEkrani& fis, const std::f
 
     const qint64 no = fisNoSayisi(fis.FisNo);
     const QString yil = fis.CalisYil;
-    Veritabani vt(klasor, Dosya::Ayniyat);
     Islem islem(vt);
 
     // The head. Its document date and description are those of the first

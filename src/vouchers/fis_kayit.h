@@ -6,6 +6,8 @@
 
 #include <functional>
 
+class Veritabani;
+
 // The voucher as the voucher screen holds it: the head's controls and the
 // grid's cells. The record operations read it and, where the save fills a
 // fallback, write back into it as the screen's controls would show.
@@ -62,6 +64,8 @@ int EnSon(const QString& klasor, const QString& fcins, const QString& yil);
 // ends the save. A database failure throws VeriHatasi and leaves the
 // voucher as it was.
 KayitSonucu Kaydet(const QString& klasor, FisEkrani& fis, const std::function<bool()>& aySorusu);
+// The same on an open AYNIYAT.MDB, inside the caller's transaction if any.
+KayitSonucu Kaydet(Veritabani& vt, FisEkrani& fis, const std::function<bool()>& aySorusu);
 
 // Fills the head from the stored voucher of the working year; false when it
 // does not exist.

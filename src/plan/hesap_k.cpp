@@ -2,6 +2,7 @@
 
 #include "kayit.h"
 #include "liste_izgarasi.h"
+#include "yukari_asagi.h"
 
 #include <QButtonGroup>
 #include <QGridLayout>
@@ -14,13 +15,6 @@
 #include <QToolButton>
 
 namespace {
-
-template <typename T>
-T* adli(T* kontrol, const char* ad)
-{
-    kontrol->setObjectName(QString::fromLatin1(ad));
-    return kontrol;
-}
 
 QLabel* etiket(const QString& metin, QWidget* kutu, QWidget* ebeveyn)
 {
@@ -37,27 +31,16 @@ HESAP_K::HESAP_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(bag
     auto* ana = new QVBoxLayout(this);
     const int harf = fontMetrics().averageCharWidth();
 
-    Frame1 = adli(new QGroupBox(this), "Frame1");
-    HesapKod = adli(new QLineEdit(Frame1), "HesapKod");
-    HesapAd = adli(new QLineEdit(Frame1), "HesapAd");
+    Frame1 = Adli(new QGroupBox(this), "Frame1");
+    HesapKod = Adli(new QLineEdit(Frame1), "HesapKod");
+    HesapAd = Adli(new QLineEdit(Frame1), "HesapAd");
     HesapKod->setFixedWidth(harf * 24);
     HesapAd->setMinimumWidth(harf * 60);
 
-    // The arrows of the code, one above the other.
-    BT = adli(new QWidget(Frame1), "BT");
-    auto* oklar = new QVBoxLayout(BT);
-    oklar->setContentsMargins(0, 0, 0, 0);
-    oklar->setSpacing(0);
-    BTYukari = adli(new QToolButton(BT), "BTYukari");
-    BTYukari->setArrowType(Qt::UpArrow);
-    BTAsagi = adli(new QToolButton(BT), "BTAsagi");
-    BTAsagi->setArrowType(Qt::DownArrow);
-    for (QToolButton* ok : {BTYukari, BTAsagi}) {
-        ok->setFixedSize(harf * 3, HesapKod->sizeHint().height() / 2);
-        ok->setFocusPolicy(Qt::NoFocus);
-        oklar->addWidget(ok);
-    }
-    Command1 = adli(new QPushButton(QStringLiteral("Getir"), Frame1), "Command1");
+    BT = new YukariAsagi(HesapKod, Frame1);
+    BTYukari = BT->BTYukari;
+    BTAsagi = BT->BTAsagi;
+    Command1 = Adli(new QPushButton(QStringLiteral("Getir"), Frame1), "Command1");
 
     auto* kart = new QGridLayout(Frame1);
     auto* kodSirasi = new QHBoxLayout;
@@ -76,29 +59,29 @@ HESAP_K::HESAP_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(bag
     ana->addWidget(Frame1);
 
     auto* dugmeler = new QHBoxLayout;
-    c2 = adli(new QPushButton(QStringLiteral("F1  Kaydet"), this), "c2");
-    CmdYaz = adli(new QPushButton(QStringLiteral("F2  Yaz"), this), "CmdYaz");
-    c3 = adli(new QPushButton(QStringLiteral("F3 Liste"), this), "c3");
-    c1 = adli(new QPushButton(QStringLiteral("F4_ Yeni Hesap"), this), "c1");
-    c5 = adli(new QPushButton(QStringLiteral("F5_ Sil"), this), "c5");
-    c9 = adli(new QPushButton(QStringLiteral("Esc_ Çık"), this), "c9");
+    c2 = Adli(new QPushButton(QStringLiteral("F1  Kaydet"), this), "c2");
+    CmdYaz = Adli(new QPushButton(QStringLiteral("F2  Yaz"), this), "CmdYaz");
+    c3 = Adli(new QPushButton(QStringLiteral("F3 Liste"), this), "c3");
+    c1 = Adli(new QPushButton(QStringLiteral("F4_ Yeni Hesap"), this), "c1");
+    c5 = Adli(new QPushButton(QStringLiteral("F5_ Sil"), this), "c5");
+    c9 = Adli(new QPushButton(QStringLiteral("Esc_ Çık"), this), "c9");
     for (QPushButton* d : {c2, CmdYaz, c3, c1, c5, c9})
         dugmeler->addWidget(d);
     dugmeler->addStretch();
     ana->addLayout(dugmeler);
 
     // The filters stand over the columns they narrow.
-    T = adli(new ListeIzgarasi(this), "T");
+    T = Adli(new ListeIzgarasi(this), "T");
     T->setToolTip(QStringLiteral("Çift tıklayarak Hesap seçebilirsiniz. Tüm Liste için HesapNo Boş olmalı."));
     T->Basliklar({QStringLiteral("HesapKod"), QStringLiteral("Hesap Adı")});
     T->Genislikler({1600, 8000});
-    HesapKod1 = adli(new QLineEdit(this), "HesapKod1");
-    HesapAd1 = adli(new QLineEdit(this), "HesapAd1");
+    HesapKod1 = Adli(new QLineEdit(this), "HesapKod1");
+    HesapAd1 = Adli(new QLineEdit(this), "HesapAd1");
     HesapKod1->setFixedWidth(T->columnWidth(0));
     HesapAd1->setFixedWidth(T->columnWidth(1));
     // One order is always chosen: without one the list query has no column.
-    Op1 = adli(new QRadioButton(QStringLiteral("Hesap Kod"), this), "Op1");
-    Op2 = adli(new QRadioButton(QStringLiteral("Hesap Adı"), this), "Op2");
+    Op1 = Adli(new QRadioButton(QStringLiteral("Hesap Kod"), this), "Op1");
+    Op2 = Adli(new QRadioButton(QStringLiteral("Hesap Adı"), this), "Op2");
     Op1->setChecked(true);
     auto* siralar = new QButtonGroup(this);
     siralar->addButton(Op1);
@@ -115,13 +98,13 @@ HESAP_K::HESAP_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(bag
     T->setMinimumSize(T->columnWidth(0) + T->columnWidth(1) + T->frameWidth() * 2 + harf * 3, 280);
     ana->addWidget(T, 1);
 
-    OpDik = adli(new QRadioButton(QStringLiteral("Dikey"), this), "OpDik");
-    OpYat = adli(new QRadioButton(QStringLiteral("Yatay"), this), "OpYat");
+    OpDik = Adli(new QRadioButton(QStringLiteral("Dikey"), this), "OpDik");
+    OpYat = Adli(new QRadioButton(QStringLiteral("Yatay"), this), "OpYat");
     OpDik->setChecked(true);
     auto* yonler = new QButtonGroup(this);
     yonler->addButton(OpDik);
     yonler->addButton(OpYat);
-    YaziBoy = adli(new QLineEdit(QStringLiteral("9"), this), "YaziBoy");
+    YaziBoy = Adli(new QLineEdit(QStringLiteral("9"), this), "YaziBoy");
     YaziBoy->setToolTip(QStringLiteral("7 ile 12 Arası Rakam olmalı."));
     YaziBoy->setFixedWidth(harf * 5);
     auto* baski = new QHBoxLayout;

@@ -9,6 +9,7 @@ class QLineEdit;
 class QPushButton;
 class QRadioButton;
 class QToolButton;
+class YukariAsagi;
 
 // "Tek Düzen Hesap Planı": the card of a plan code, the list of the plan
 // under a code or a name filter, numeric stepping through the main codes and
@@ -40,7 +41,7 @@ private:
     QGroupBox* Frame1;
     QLineEdit* HesapKod;
     QLineEdit* HesapAd;
-    QWidget* BT;
+    YukariAsagi* BT;
     QToolButton* BTYukari;
     QToolButton* BTAsagi;
     QPushButton* Command1;

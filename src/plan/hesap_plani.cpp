@@ -42,13 +42,9 @@ QList<QStringList> HesapPlani::Liste(const QString& klasor, const QString& kodSu
     const QString sirala = sira == Sira::HesapKod ? QStringLiteral("HesapKod") : QStringLiteral("HesapAd");
 
     Veritabani vt(klasor, Dosya::Genel);
-    QSqlQuery q = vt.Sorgu(QStringLiteral("Select HesapKod, HesapAd from HESAP_K ") + kosul
+    return vt.Satirlar(QStringLiteral("Select HesapKod, HesapAd from HESAP_K ") + kosul
                                + QStringLiteral(" order by ") + sirala,
                            degerler);
-    QList<QStringList> satirlar;
-    while (q.next())
-        satirlar.append({q.value(0).toString(), q.value(1).toString()});
-    return satirlar;
 }
 
 std::optional<QString> HesapPlani::Getir(const QString& klasor, const QString& hesapKod)

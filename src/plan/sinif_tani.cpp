@@ -5,6 +5,7 @@
 #include "liste_izgarasi.h"
 #include "sinif_alici.h"
 #include "sinif_tanim.h"
+#include "yukari_asagi.h"
 
 #include <QBoxLayout>
 #include <QGridLayout>
@@ -93,21 +94,9 @@ SinifTani::SinifTani(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani
     for (QLineEdit* k : {Birimi, KDV1, Stok})
         k->setMaximumWidth(fontMetrics().averageCharWidth() * 12);
 
-    BT = new QWidget(this);
-    BT->setObjectName(QStringLiteral("BT"));
-    auto* oklar = new QVBoxLayout(BT);
-    oklar->setContentsMargins(0, 0, 0, 0);
-    oklar->setSpacing(0);
-    const auto ok = [&](QToolButton*& dugme, const QString& ad, Qt::ArrowType yon) {
-        dugme = new QToolButton(BT);
-        dugme->setObjectName(ad);
-        dugme->setArrowType(yon);
-        dugme->setFixedHeight(HesapNo->sizeHint().height() / 2);
-        dugme->setFocusPolicy(Qt::NoFocus);
-        oklar->addWidget(dugme);
-    };
-    ok(BTYukari, QStringLiteral("BTYukari"), Qt::UpArrow);
-    ok(BTAsagi, QStringLiteral("BTAsagi"), Qt::DownArrow);
+    BT = new YukariAsagi(HesapNo, this);
+    BTYukari = BT->BTYukari;
+    BTAsagi = BT->BTAsagi;
     kart->addWidget(BT, 0, 2, Qt::AlignLeft);
 
     kart->addWidget(yazi(QStringLiteral("3. Detay Hesap Kod  ;    XXX XX XX XXX formunda olmalı. "), this), satir++,

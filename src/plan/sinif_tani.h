@@ -10,6 +10,7 @@ class QLineEdit;
 class QPushButton;
 class QRadioButton;
 class QToolButton;
+class YukariAsagi;
 class SinifAlici;
 
 // "Malzeme Sınıf Tanımlama": the material classes of URUN_K. Clicking down
@@ -71,7 +72,7 @@ private:
     ListeIzgarasi* T3;
     ListeIzgarasi* T4;
     QLineEdit* HesapNo;
-    QWidget* BT;
+    YukariAsagi* BT;
     QToolButton* BTYukari;
     QToolButton* BTAsagi;
     QLineEdit* MalzAdi;

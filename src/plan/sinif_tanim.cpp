@@ -173,14 +173,9 @@ QList<QStringList> SinifTanim::Liste(const QString& klasor, const QString& hesap
                                                    : QStringLiteral("EskiKod");
 
     Veritabani vt(klasor, Dosya::Genel);
-    QSqlQuery sorgu = vt.Sorgu(QStringLiteral("Select HesapKod, MalzAdi, Kdv1, EskiKod from URUN_K ") + kosul +
-                                   QStringLiteral(" order by ") + sirala,
-                               degerler);
-    QList<QStringList> satirlar;
-    while (sorgu.next())
-        satirlar.append({sorgu.value(0).toString(), sorgu.value(1).toString(), sorgu.value(2).toString(),
-                         sorgu.value(3).toString()});
-    return satirlar;
+    return vt.Satirlar(QStringLiteral("Select HesapKod, MalzAdi, Kdv1, EskiKod from URUN_K ") + kosul
+                           + QStringLiteral(" order by ") + sirala,
+                       degerler);
 }
 
 void SinifTanim::ListeYazdir(Yazici& p, const Izgara& izgara)

@@ -4,6 +4,7 @@
 #include "kayit.h"
 #include "liste_izgarasi.h"
 #include "unite_tanim.h"
+#include "yukari_asagi.h"
 
 #include <QApplication>
 #include <QGridLayout>
@@ -19,13 +20,6 @@
 namespace {
 
 // The control under its form name, which tests and the menu look it up by.
-template <typename T>
-T* adli(T* kontrol, const char* ad)
-{
-    kontrol->setObjectName(QString::fromLatin1(ad));
-    return kontrol;
-}
-
 }
 
 Unite_TANI::Unite_TANI(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam, parent)
@@ -33,28 +27,17 @@ Unite_TANI::Unite_TANI(const CalismaBaglami& baglam, QWidget* parent) : KartEkra
     setWindowTitle(QStringLiteral("Ünite-Birim Tanımlama"));
     auto* ana = new QVBoxLayout(this);
 
-    UniteKod = adli(new QLineEdit(this), "UniteKod");
-    UniteAd = adli(new QLineEdit(this), "UniteAd");
-    BiletFiyat = adli(new QLineEdit(this), "BiletFiyat");
+    UniteKod = Adli(new QLineEdit(this), "UniteKod");
+    UniteAd = Adli(new QLineEdit(this), "UniteAd");
+    BiletFiyat = Adli(new QLineEdit(this), "BiletFiyat");
     const int harf = fontMetrics().averageCharWidth();
     UniteKod->setFixedWidth(harf * 10);
     UniteAd->setMinimumWidth(harf * 40);
     BiletFiyat->setFixedWidth(harf * 10);
 
-    // The arrows of the code, one above the other.
-    BT = adli(new QWidget(this), "BT");
-    auto* oklar = new QVBoxLayout(BT);
-    oklar->setContentsMargins(0, 0, 0, 0);
-    oklar->setSpacing(0);
-    BTYukari = adli(new QToolButton(BT), "BTYukari");
-    BTYukari->setArrowType(Qt::UpArrow);
-    BTAsagi = adli(new QToolButton(BT), "BTAsagi");
-    BTAsagi->setArrowType(Qt::DownArrow);
-    for (QToolButton* ok : {BTYukari, BTAsagi}) {
-        ok->setFixedSize(harf * 3, UniteKod->sizeHint().height() / 2);
-        ok->setFocusPolicy(Qt::NoFocus);
-        oklar->addWidget(ok);
-    }
+    BT = new YukariAsagi(UniteKod, this);
+    BTYukari = BT->BTYukari;
+    BTAsagi = BT->BTAsagi;
 
     auto* kart = new QGridLayout;
     auto* kodEtiketi = new QLabel(QStringLiteral("Ünite Kod"), this);
@@ -74,26 +57,26 @@ Unite_TANI::Unite_TANI(const CalismaBaglami& baglam, QWidget* parent) : KartEkra
     ana->addLayout(kart);
 
     auto* dugmeler = new QHBoxLayout;
-    c2 = adli(new QPushButton(QStringLiteral("F1_Kayıt"), this), "c2");
-    CmdYaz = adli(new QPushButton(QStringLiteral("F2  Yaz"), this), "CmdYaz");
-    c1 = adli(new QPushButton(QStringLiteral("F4_Yeni Ünite"), this), "c1");
-    c5 = adli(new QPushButton(QStringLiteral("F5_ Sil"), this), "c5");
-    c9 = adli(new QPushButton(QStringLiteral("Çıkış"), this), "c9");
+    c2 = Adli(new QPushButton(QStringLiteral("F1_Kayıt"), this), "c2");
+    CmdYaz = Adli(new QPushButton(QStringLiteral("F2  Yaz"), this), "CmdYaz");
+    c1 = Adli(new QPushButton(QStringLiteral("F4_Yeni Ünite"), this), "c1");
+    c5 = Adli(new QPushButton(QStringLiteral("F5_ Sil"), this), "c5");
+    c9 = Adli(new QPushButton(QStringLiteral("Çıkış"), this), "c9");
     for (QPushButton* d : {c2, CmdYaz, c1, c5, c9})
         dugmeler->addWidget(d);
     dugmeler->addStretch();
     ana->addLayout(dugmeler);
 
     // The filters stand over the columns they bound.
-    T = adli(new ListeIzgarasi(this), "T");
+    T = Adli(new ListeIzgarasi(this), "T");
     T->Basliklar(UniteTanim::Basliklar());
     T->Genislikler(UniteTanim::Genislikler());
-    UniteKod1 = adli(new QLineEdit(this), "UniteKod1");
-    UniteAd1 = adli(new QLineEdit(this), "UniteAd1");
+    UniteKod1 = Adli(new QLineEdit(this), "UniteKod1");
+    UniteAd1 = Adli(new QLineEdit(this), "UniteAd1");
     UniteKod1->setFixedWidth(T->columnWidth(0));
     UniteAd1->setFixedWidth(T->columnWidth(1));
-    Op1 = adli(new QRadioButton(QStringLiteral("Ünite Kod"), this), "Op1");
-    Op2 = adli(new QRadioButton(QStringLiteral("Ünite Adı"), this), "Op2");
+    Op1 = Adli(new QRadioButton(QStringLiteral("Ünite Kod"), this), "Op1");
+    Op2 = Adli(new QRadioButton(QStringLiteral("Ünite Adı"), this), "Op2");
     Op1->setChecked(true);
     auto* suzgecler = new QHBoxLayout;
     suzgecler->setSpacing(0);

@@ -7,6 +7,7 @@ class QLineEdit;
 class QPushButton;
 class QRadioButton;
 class QToolButton;
+class YukariAsagi;
 
 // "Ünite-Birim Tanımlama": the card of a unit, the list of units under two
 // lower-bound filters, and stepping through the codes.
@@ -39,7 +40,7 @@ private:
     QLineEdit* UniteKod;
     QLineEdit* UniteAd;
     QLineEdit* BiletFiyat;
-    QWidget* BT;
+    YukariAsagi* BT;
     QToolButton* BTYukari;
     QToolButton* BTAsagi;
     QPushButton* c2;

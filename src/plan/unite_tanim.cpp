@@ -51,13 +51,9 @@ QList<QStringList> UniteTanim::Liste(const QString& klasor, const QString& kodSi
     const QString siralama = sira == Sira::Kod ? QStringLiteral("UniteKod") : QStringLiteral("UniteAd");
 
     Veritabani vt(klasor, Dosya::Genel);
-    QSqlQuery q = vt.Sorgu(QStringLiteral("Select UniteKod, UniteAd from Unite_K ") + kosul
+    return vt.Satirlar(QStringLiteral("Select UniteKod, UniteAd from Unite_K ") + kosul
                                + QStringLiteral(" order by ") + siralama,
                            degerler);
-    QList<QStringList> satirlar;
-    while (q.next())
-        satirlar.append({q.value(0).toString(), q.value(1).toString()});
-    return satirlar;
 }
 
 QString UniteTanim::Sonk(const QString& klasor)

@@ -55,6 +55,14 @@ private:
     Cikti* m_cikti = nullptr;
 };
 
+// Gives a control the name of the form's control, and hands it back.
+template <typename Kontrol>
+Kontrol* Adli(Kontrol* kontrol, const char* ad)
+{
+    kontrol->setObjectName(QString::fromLatin1(ad));
+    return kontrol;
+}
+
 // The busy cursor for as long as it lives.
 class MesgulImlec
 {

@@ -4,7 +4,6 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QSqlRecord>
 
 ListeIzgarasi::ListeIzgarasi(QWidget* ebeveyn) : QTableView(ebeveyn)
 {
@@ -52,17 +51,7 @@ void ListeIzgarasi::GenislikleriUygula()
 
 void ListeIzgarasi::Doldur(Veritabani& vt, const QString& sql, const QVariantList& degerler)
 {
-    QSqlQuery q = vt.Sorgu(sql, degerler);
-    QList<QStringList> satirlar;
-    const int sutun = q.record().count();
-    while (q.next()) {
-        QStringList satir;
-        satir.reserve(sutun);
-        for (int i = 0; i < sutun; ++i)
-            satir << q.value(i).toString();
-        satirlar << satir;
-    }
-    Satirlar(satirlar);
+    Satirlar(vt.Satirlar(sql, degerler));
 }
 
 void ListeIzgarasi::Satirlar(const QList<QStringList>& satirlar)

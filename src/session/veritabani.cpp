@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QSqlDriver>
 #include <QSqlError>
+#include <QSqlRecord>
 
 #include <sqlite3.h>
 
@@ -176,6 +177,21 @@ QSqlQuery& HazirKomut::Calistir(const QVariantList& degerler)
     if (!m_sorgu.exec())
         throw sorguHatasi(m_dosya, m_sorgu);
     return m_sorgu;
+}
+
+QList<QStringList> Veritabani::Satirlar(const QString& sql, const QVariantList& degerler)
+{
+    QSqlQuery q = Sorgu(sql, degerler);
+    const int sutun = q.record().count();
+    QList<QStringList> satirlar;
+    while (q.next()) {
+        QStringList satir;
+        satir.reserve(sutun);
+        for (int i = 0; i < sutun; ++i)
+            satir << q.value(i).toString();
+        satirlar << satir;
+    }
+    return satirlar;
 }
 
 int Veritabani::Calistir(const QString& sql, const QVariantList& degerler)

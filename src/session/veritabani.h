@@ -29,6 +29,8 @@ public:
     // Prepares, binds the values in order and runs; throws VeriHatasi. A
     // null QString is written as empty text; an empty QVariant as NULL.
     QSqlQuery Sorgu(const QString& sql, const QVariantList& degerler = {});
+    // Every row of the query as texts, for the lists.
+    QList<QStringList> Satirlar(const QString& sql, const QVariantList& degerler = {});
     // As Sorgu, for statements that change rows; answers the count changed.
     int Calistir(const QString& sql, const QVariantList& degerler = {});
 

@@ -281,11 +281,35 @@ void tarihSayi(sqlite3_context* ctx, int, sqlite3_value** argv)
     sqlite3_result_int64(ctx, sqlite3_int64(yil) * 10000 + ay * 100 + gun);
 }
 
+// The weight of each ASCII character, worked out once: indexes compare
+// codes and upper-case texts millions of times.
+struct AsciiAgirliklari
+{
+    char32_t agirlik[128];
+    AsciiAgirliklari()
+    {
+        for (char32_t c = 0; c < 128; ++c)
+            agirlik[c] = siraAgirligi(SqlIslevleri::TurkceKucuk(c));
+    }
+};
+
 int trKarsilastir(void*, int n1, const void* a, int n2, const void* b)
 {
+    static const AsciiAgirliklari ascii;
     const auto* pa = static_cast<const unsigned char*>(a);
     const auto* pb = static_cast<const unsigned char*>(b);
-    return karsilastir(Utf8Okuyucu{pa, pa + n1}, Utf8Okuyucu{pb, pb + n2});
+    const auto* sonA = pa + n1;
+    const auto* sonB = pb + n2;
+    // While both sides are ASCII, byte by byte; the rest the long way.
+    for (; pa < sonA && pb < sonB && *pa < 0x80 && *pb < 0x80; ++pa, ++pb) {
+        if (*pa == *pb)
+            continue;
+        const char32_t x = ascii.agirlik[*pa];
+        const char32_t y = ascii.agirlik[*pb];
+        if (x != y)
+            return x < y ? -1 : 1;
+    }
+    return karsilastir(Utf8Okuyucu{pa, sonA}, Utf8Okuyucu{pb, sonB});
 }
 
 sqlite3* tutamac(const QSqlDatabase& db)

@@ -110,6 +110,7 @@ void Veritabani::Ac(bool yeni)
 
 Veritabani::~Veritabani()
 {
+    m_hazirlar.clear();
     {
         QSqlDatabase db = QSqlDatabase::database(m_ad, false);
         db.close();
@@ -144,10 +145,6 @@ void bagla(QSqlQuery& sorgu, const QVariantList& degerler)
     }
 }
 
-VeriHatasi sorguHatasi(const QString& dosya, const QSqlQuery& sorgu)
-{
-    return VeriHatasi(QStringLiteral("Veri tabanı hatası (%1): %2").arg(dosya, sorgu.lastError().text()));
-}
 
 }
 
@@ -156,27 +153,74 @@ QSqlQuery Veritabani::Sorgu(const QString& sql, const QVariantList& degerler)
     QSqlQuery sorgu(Baglanti());
     sorgu.setForwardOnly(true);
     if (!sorgu.prepare(sql))
-        throw sorguHatasi(QFileInfo(m_yol).fileName(), sorgu);
+        throw Hata(sorgu.lastError().text());
     bagla(sorgu, degerler);
     if (!sorgu.exec())
-        throw sorguHatasi(QFileInfo(m_yol).fileName(), sorgu);
+        throw Hata(sorgu.lastError().text());
     return sorgu;
 }
 
-HazirKomut::HazirKomut(Veritabani& vt, const QString& sql)
-    : m_dosya(QFileInfo(vt.Yol()).fileName()), m_sorgu(vt.Baglanti())
+VeriHatasi Veritabani::Hata(const QString& ayrinti) const
 {
-    m_sorgu.setForwardOnly(true);
-    if (!m_sorgu.prepare(sql))
-        throw sorguHatasi(m_dosya, m_sorgu);
+    return VeriHatasi(QStringLiteral("Veri tabanı hatası (%1): %2").arg(QFileInfo(m_yol).fileName(), ayrinti));
 }
 
-QSqlQuery& HazirKomut::Calistir(const QVariantList& degerler)
+HazirKomut& Veritabani::Hazir(const QString& sql)
 {
-    bagla(m_sorgu, degerler);
-    if (!m_sorgu.exec())
-        throw sorguHatasi(m_dosya, m_sorgu);
-    return m_sorgu;
+    auto& yer = m_hazirlar[sql];
+    if (!yer)
+        yer = std::make_unique<HazirKomut>(*this, sql);
+    return *yer;
+}
+
+HazirKomut::HazirKomut(Veritabani& vt, const QString& sql) : m_vt(vt)
+{
+    auto* db = static_cast<sqlite3*>(vt.Tutamac());
+    const QByteArray metin = sql.toUtf8();
+    if (sqlite3_prepare_v2(db, metin.constData(), int(metin.size()), &m_komut, nullptr) != SQLITE_OK)
+        throw vt.Hata(QString::fromUtf8(sqlite3_errmsg(db)));
+}
+
+HazirKomut::~HazirKomut()
+{
+    sqlite3_finalize(m_komut);
+}
+
+int HazirKomut::Calistir(const QVariantList& degerler)
+{
+    auto* db = sqlite3_db_handle(m_komut);
+    int sira = 0;
+    for (const QVariant& deger : degerler) {
+        ++sira;
+        int rc;
+        switch (deger.typeId()) {
+        case QMetaType::UnknownType:
+            rc = sqlite3_bind_null(m_komut, sira);
+            break;
+        case QMetaType::Int:
+        case QMetaType::LongLong:
+        case QMetaType::UInt:
+        case QMetaType::Bool:
+            rc = sqlite3_bind_int64(m_komut, sira, deger.toLongLong());
+            break;
+        case QMetaType::Double:
+            rc = sqlite3_bind_double(m_komut, sira, deger.toDouble());
+            break;
+        default: {
+            // A null text is empty text here too.
+            const QByteArray metin = deger.toString().toUtf8();
+            rc = sqlite3_bind_text(m_komut, sira, metin.constData(), int(metin.size()), SQLITE_TRANSIENT);
+        }
+        }
+        if (rc != SQLITE_OK)
+            throw m_vt.Hata(QString::fromUtf8(sqlite3_errmsg(db)));
+    }
+    const int rc = sqlite3_step(m_komut);
+    sqlite3_reset(m_komut);
+    sqlite3_clear_bindings(m_komut);
+    if (rc != SQLITE_DONE && rc != SQLITE_ROW)
+        throw m_vt.Hata(QString::fromUtf8(sqlite3_errmsg(db)));
+    return sqlite3_changes(db);
 }
 
 QList<QStringList> Veritabani::Satirlar(const QString& sql, const QVariantList& degerler)
@@ -202,7 +246,7 @@ int Veritabani::Calistir(const QString& sql, const QVariantList& degerler)
 Islem::Islem(Veritabani& vt)
     : m_vt(vt), m_ic(sqlite3_get_autocommit(static_cast<sqlite3*>(vt.Tutamac())) == 0)
 {
-    m_vt.Calistir(m_ic ? QStringLiteral("SAVEPOINT islem") : QStringLiteral("BEGIN IMMEDIATE"));
+    m_vt.Hazir(m_ic ? QStringLiteral("SAVEPOINT islem") : QStringLiteral("BEGIN IMMEDIATE")).Calistir();
 }
 
 Islem::~Islem()
@@ -210,10 +254,10 @@ Islem::~Islem()
     if (m_acik) {
         try {
             if (m_ic) {
-                m_vt.Calistir(QStringLiteral("ROLLBACK TO islem"));
-                m_vt.Calistir(QStringLiteral("RELEASE islem"));
+                m_vt.Hazir(QStringLiteral("ROLLBACK TO islem")).Calistir();
+                m_vt.Hazir(QStringLiteral("RELEASE islem")).Calistir();
             } else {
-                m_vt.Calistir(QStringLiteral("ROLLBACK"));
+                m_vt.Hazir(QStringLiteral("ROLLBACK")).Calistir();
             }
         } catch (const VeriHatasi&) {
             // Nothing more can be done; the engine drops the open transaction
@@ -224,6 +268,6 @@ Islem::~Islem()
 
 void Islem::Onayla()
 {
-    m_vt.Calistir(m_ic ? QStringLiteral("RELEASE islem") : QStringLiteral("COMMIT"));
+    m_vt.Hazir(m_ic ? QStringLiteral("RELEASE islem") : QStringLiteral("COMMIT")).Calistir();
     m_acik = false;
 }

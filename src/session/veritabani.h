@@ -7,10 +7,15 @@
 #include <QString>
 #include <QVariantList>
 
+#include <map>
+#include <memory>
+
 // The data files of the program, by their system names.
 enum class Dosya { Genel, Ayniyat, HesapKod, Okul, Sirket };
 
 QString DosyaAdi(Dosya dosya);
+
+class HazirKomut;
 
 // One open connection to one data file, with our SQL functions registered.
 // Each screen or routine opens its own and lets it go when done.
@@ -33,6 +38,9 @@ public:
     QList<QStringList> Satirlar(const QString& sql, const QVariantList& degerler = {});
     // As Sorgu, for statements that change rows; answers the count changed.
     int Calistir(const QString& sql, const QVariantList& degerler = {});
+    // The writing statement of this text, prepared once for the life of the
+    // connection (a voucher's lines, a transaction's savepoints).
+    HazirKomut& Hazir(const QString& sql);
 
     const QString& Yol() const { return m_yol; }
     QSqlDatabase Baglanti() const;
@@ -40,25 +48,32 @@ public:
     void* Tutamac() const;
 
 private:
+    friend class HazirKomut;
     void Ac(bool yeni);
+    VeriHatasi Hata(const QString& ayrinti) const;
 
     QString m_yol;
     QString m_ad;
     Dosya m_dosya;
+    std::map<QString, std::unique_ptr<HazirKomut>> m_hazirlar;
 };
 
-// A statement prepared once and run many times with new values, with the
-// binding rules of Veritabani::Sorgu.
+// A writing statement prepared once and run many times with new values,
+// straight on the engine (the driver's per-value binding costs more than
+// the write itself). Values bind as in Veritabani::Sorgu.
 class HazirKomut
 {
 public:
     HazirKomut(Veritabani& vt, const QString& sql);
-    // Runs with the values; throws VeriHatasi.
-    QSqlQuery& Calistir(const QVariantList& degerler);
+    ~HazirKomut();
+    HazirKomut(const HazirKomut&) = delete;
+    HazirKomut& operator=(const HazirKomut&) = delete;
+    // Runs with the values; answers the rows changed; throws VeriHatasi.
+    int Calistir(const QVariantList& degerler = {});
 
 private:
-    QString m_dosya;
-    QSqlQuery m_sorgu;
+    Veritabani& m_vt;
+    struct sqlite3_stmt* m_komut = nullptr;
 };
 
 // Writes that belong together: BEGIN IMMEDIATE now, ROLLBACK unless Onayla

@@ -122,21 +122,21 @@ KayitSonucu FisKayit::Kaydet(Veritabani& vt, FisEkrani& fis, const std::function
                               kes(fis.BelgeTur, 10)};
     QSqlQuery var = vt.Sorgu(QStringLiteral("select rowid from FIS_B") + fisKosulu, {no, fis.FCins, yil});
     if (var.next()) {
-        vt.Calistir(QStringLiteral("update FIS_B set FisNo = ?, Tarih = ?, KabulSayi = ?, KabulTarih = ?, "
+        vt.Hazir(QStringLiteral("update FIS_B set FisNo = ?, Tarih = ?, KabulSayi = ?, KabulTarih = ?, "
                                    "TeslimAlan = ?, NeredenGeldigi = ?, FCins = ?, Ozellik = ?, BelgeTarih = ?, "
-                                   "BelgeSayi = ?, BelgeTur = ? where rowid = ?"),
-                    bas + QVariantList{var.value(0)});
+                                 "BelgeSayi = ?, BelgeTur = ? where rowid = ?"))
+            .Calistir(bas + QVariantList{var.value(0)});
     } else {
-        vt.Calistir(QStringLiteral("insert into FIS_B (FisNo, Tarih, KabulSayi, KabulTarih, TeslimAlan, "
-                                   "NeredenGeldigi, FCins, Ozellik, BelgeTarih, BelgeSayi, BelgeTur) "
-                                   "values (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
-                    bas);
+        vt.Hazir(QStringLiteral("insert into FIS_B (FisNo, Tarih, KabulSayi, KabulTarih, TeslimAlan, "
+                                "NeredenGeldigi, FCins, Ozellik, BelgeTarih, BelgeSayi, BelgeTur) "
+                                "values (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"))
+            .Calistir(bas);
     }
 
     // The lines: all deleted, then one row per filled grid row. A skipped
     // row leaves its line number unused.
-    vt.Calistir(QStringLiteral("Delete from FIS") + fisKosulu, {no, fis.FCins, yil});
-    HazirKomut ekle(vt, QStringLiteral(
+    vt.Hazir(QStringLiteral("Delete from FIS") + fisKosulu).Calistir({no, fis.FCins, yil});
+    HazirKomut& ekle = vt.Hazir(QStringLiteral(
         "insert into FIS (Satir, Tarih, FisNo, HesapKod, Ozellik, Birimi, Miktar, FCins, BirimFiyat, "
         "BelgeTarih, BelgeSayi, Unite, IslemTur, SicilNo, KDV, Cikan, KimeVerildigi, AmbarNo, OzelKod, "
         "KabulTarih, KabulSayi, FCinss) values (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, '')"));

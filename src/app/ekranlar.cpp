@@ -1,5 +1,6 @@
 #include "ekranlar.h"
 
+#include "fis_k.h"
 #include "hesap_k.h"
 #include "menu.h"
 #include "sabit.h"
@@ -11,16 +12,21 @@
 namespace {
 
 // A form exists once: opening it again brings the open one to the front, as
-// the menu's forms always did.
-template <typename Form, typename Kur>
-EkranAcici tekOrnek(Kur kur)
+// the menu's forms always did. `kur` runs when the form is made, `kipYaz`
+// each time the menu opens it, with the entry's mode values.
+template <typename Form>
+EkranAcici tekOrnek(std::function<void(Form&)> kur = {},
+                    std::function<void(Form&, const QVariantMap&)> kipYaz = {})
 {
     auto ornek = std::make_shared<QPointer<Form>>();
-    return [ornek, kur](const CalismaBaglami& baglam, const QVariantMap& kip) {
+    return [ornek, kur, kipYaz](const CalismaBaglami& baglam, const QVariantMap& kip) {
         if (!*ornek) {
             *ornek = new Form(baglam);
-            kur(**ornek, kip);
+            if (kur)
+                kur(**ornek);
         }
+        if (kipYaz)
+            kipYaz(**ornek, kip);
         (*ornek)->show();
         (*ornek)->raise();
         (*ornek)->activateWindow();
@@ -29,19 +35,25 @@ EkranAcici tekOrnek(Kur kur)
 
 }
 
-// A form the menu only shows, with no mode values to take.
-template <typename Form>
-EkranAcici yalnizAc()
-{
-    return tekOrnek<Form>([](Form&, const QVariantMap&) {});
-}
-
 void EkranlariTanimla(Menu& menu)
 {
-    menu.EkranTanimla(QStringLiteral("HESAP_K"), yalnizAc<HESAP_K>());
-    menu.EkranTanimla(QStringLiteral("SinifTani"), yalnizAc<SinifTani>());
-    menu.EkranTanimla(QStringLiteral("Unite_TANI"), yalnizAc<Unite_TANI>());
-    menu.EkranTanimla(QStringLiteral("Sabit"), tekOrnek<Sabit>([&menu](Sabit& sabit, const QVariantMap&) {
-        QObject::connect(&sabit, &Sabit::CalismaDegisti, &menu, &Menu::CalismaAyarla);
-    }));
+    // The voucher screen's class look-ups are read again when the class or
+    // the unit screen closes, so that what was just defined can be chosen.
+    auto fis = std::make_shared<QPointer<FIS_K>>();
+    auto listeyiYenile = [fis](QWidget& ekran) {
+        QObject::connect(&ekran, &QObject::destroyed, [fis] {
+            if (*fis)
+                (*fis)->SinifListesiYenile();
+        });
+    };
+
+    menu.EkranTanimla(QStringLiteral("FIS_K"),
+                      tekOrnek<FIS_K>([fis](FIS_K& f) { *fis = &f; },
+                                      [](FIS_K& f, const QVariantMap& kip) { f.KipAyarla(kip); }));
+    menu.EkranTanimla(QStringLiteral("HESAP_K"), tekOrnek<HESAP_K>());
+    menu.EkranTanimla(QStringLiteral("SinifTani"), tekOrnek<SinifTani>(listeyiYenile));
+    menu.EkranTanimla(QStringLiteral("Unite_TANI"), tekOrnek<Unite_TANI>(listeyiYenile));
+    menu.EkranTanimla(QStringLiteral("Sabit"), tekOrnek<Sabit>([&menu](Sabit& sabit) {
+                          QObject::connect(&sabit, &Sabit::CalismaDegisti, &menu, &Menu::CalismaAyarla);
+                      }));
 }

@@ -1,9 +1,14 @@
 #include "ekranlar.h"
+#include "fis_k.h"
 #include "menu.h"
 #include "saat.h"
 #include "sabit.h"
+#include "sinif_tani.h"
+#include "veritabani.h"
 #include "veri_klasoru.h"
 
+#include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -13,6 +18,15 @@
 class TstEkranlar : public QObject
 {
     Q_OBJECT
+
+    template <typename Form>
+    static Form* acik()
+    {
+        for (QWidget* w : QApplication::topLevelWidgets())
+            if (auto* f = qobject_cast<Form*>(w); f && f->isVisible())
+                return f;
+        return nullptr;
+    }
 
     static Sabit* acikSabit()
     {
@@ -73,6 +87,45 @@ private slots:
         QCOMPARE(acikSabit(), sabit);
         QTest::keyClick(yil, Qt::Key_Escape);
         QVERIFY(!acikSabit());
+    }
+
+    void fisEkraniMenuKipleriyleAcilir()
+    {
+        QTemporaryDir tmp;
+        VeriKlasoru::Hazirla(tmp.path());
+        Menu menu(tmp.path());
+        EkranlariTanimla(menu);
+        menu.show();
+
+        QTest::mouseClick(menu.Dugme(QStringLiteral("Command13")), Qt::LeftButton);
+        FIS_K* fis = acik<FIS_K>();
+        QVERIFY(fis);
+        QVERIFY(QTest::qWaitForWindowExposed(fis));
+        QCOMPARE(fis->findChild<QLineEdit*>(QStringLiteral("FisNo"))->text(), QStringLiteral("1"));
+        auto* kabul = fis->findChild<QLineEdit*>(QStringLiteral("KabulSayi"));
+        QVERIFY(kabul->isVisible());
+
+        // The issue button turns the same form into an issue voucher; its
+        // hidden controls stay hidden, and TF2 keeps the kind it had.
+        QTest::mouseClick(menu.Dugme(QStringLiteral("CmdCikis")), Qt::LeftButton);
+        QCOMPARE(acik<FIS_K>(), fis);
+        QVERIFY(!kabul->isVisible());
+        QCOMPARE(fis->findChild<QLabel*>(QStringLiteral("Label2"))->text(), QStringLiteral("Ambardan Çıkış"));
+        menu.Giris(QStringLiteral("TF2"))->trigger();
+        QVERIFY(!kabul->isVisible());
+
+        // A class defined on the class screen can be chosen once it closes.
+        auto* hesKod = fis->findChild<QComboBox*>(QStringLiteral("HesKod"));
+        const int once = hesKod->count();
+        {
+            Veritabani vt(tmp.path(), Dosya::Genel);
+            vt.Calistir(QStringLiteral("insert into URUN_K (HesapKod, MalzAdi) values ('150 01 01 001', 'Kağıt')"));
+        }
+        QTest::mouseClick(menu.Dugme(QStringLiteral("Command5")), Qt::LeftButton);
+        QWidget* sinif = acik<SinifTani>();
+        QVERIFY(sinif);
+        sinif->close();
+        QTRY_COMPARE(hesKod->count(), once + 1);
     }
 };
 

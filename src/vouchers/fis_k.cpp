@@ -1,0 +1,1139 @@
+#include "fis_k.h"
+
+#include "bicim.h"
+#include "fis_izgara.h"
+#include "kayit.h"
+#include "liste_izgarasi.h"
+#include "saat.h"
+#include "sinif_tani.h"
+
+#include <QApplication>
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QToolButton>
+
+namespace {
+
+const QString hazirDegil = QStringLiteral("Bu bölüm henüz hazır değil.");
+
+bool enterMi(const QKeyEvent* olay)
+{
+    return olay->key() == Qt::Key_Return || olay->key() == Qt::Key_Enter;
+}
+
+// A key that types a character into a box.
+bool yaziTusuMu(const QKeyEvent* olay)
+{
+    return !olay->text().isEmpty() && olay->text().at(0).isPrint()
+           && !(olay->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+}
+
+// Refills a combo's list; the text typed in it stays.
+void listeDoldur(QComboBox* kutu, const QStringList& ogeler)
+{
+    const QString metin = kutu->currentText();
+    kutu->clear();
+    kutu->addItems(ogeler);
+    kutu->setEditText(metin);
+}
+
+QComboBox* yazilirKutu(const QString& ad, QWidget* ebeveyn)
+{
+    auto* kutu = new QComboBox(ebeveyn);
+    kutu->setObjectName(ad);
+    kutu->setEditable(true);
+    kutu->setInsertPolicy(QComboBox::NoInsert);
+    // The old combos did not complete what was typed.
+    kutu->setCompleter(nullptr);
+    return kutu;
+}
+
+}
+
+FIS_K::FIS_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam, parent)
+{
+    setWindowTitle(QStringLiteral("Fiş Giriş-Düzeltme"));
+    auto* ana = new QVBoxLayout(this);
+
+    Label2 = new QLabel(QStringLiteral("Giriş ve Birime Çıkış"), this);
+    Label2->setObjectName(QStringLiteral("Label2"));
+    QFont baslikYazisi = Label2->font();
+    baslikYazisi.setBold(true);
+    baslikYazisi.setPointSizeF(baslikYazisi.pointSizeF() * 1.3);
+    Label2->setFont(baslikYazisi);
+    ana->addWidget(Label2);
+
+    auto* bas = new QGridLayout;
+    ana->addLayout(bas);
+    const auto etiket = [this](const QString& metin, QWidget* kutu) {
+        auto* e = new QLabel(metin, this);
+        e->setBuddy(kutu);
+        return e;
+    };
+    const auto metinKutusu = [this](const QString& ad) {
+        auto* k = new QLineEdit(this);
+        k->setObjectName(ad);
+        return k;
+    };
+    FisNo = metinKutusu(QStringLiteral("FisNo"));
+    FisNo->setMaximumWidth(fontMetrics().averageCharWidth() * 10);
+    BT = new QWidget(this);
+    BT->setObjectName(QStringLiteral("BT"));
+    auto* oklar = new QVBoxLayout(BT);
+    oklar->setContentsMargins(0, 0, 0, 0);
+    oklar->setSpacing(0);
+    const auto ok = [&](QToolButton*& dugme, const QString& ad, Qt::ArrowType yon) {
+        dugme = new QToolButton(BT);
+        dugme->setObjectName(ad);
+        dugme->setArrowType(yon);
+        dugme->setFixedHeight(FisNo->sizeHint().height() / 2);
+        dugme->setFocusPolicy(Qt::NoFocus);
+        oklar->addWidget(dugme);
+    };
+    ok(BTYukari, QStringLiteral("BTYukari"), Qt::UpArrow);
+    ok(BTAsagi, QStringLiteral("BTAsagi"), Qt::DownArrow);
+    Tarih = metinKutusu(QStringLiteral("Tarih"));
+    KabulTarih = metinKutusu(QStringLiteral("KabulTarih"));
+    KabulSayi = metinKutusu(QStringLiteral("KabulSayi"));
+    TeslimAlan = yazilirKutu(QStringLiteral("TeslimAlan"), this);
+    BelgeTur = yazilirKutu(QStringLiteral("BelgeTur"), this);
+    BelgeTur->addItems({QStringLiteral("Fatura"), QStringLiteral("Karar"), QStringLiteral("Makbuz"),
+                        QStringLiteral("Onay"), QStringLiteral("Protokol"), QStringLiteral("Sözleşme"),
+                        QStringLiteral("Tutanak"), QStringLiteral("İstekBelgesi"), QStringLiteral("Diğer")});
+    BelgeTur->setEditText(QString());
+    BelgeSayi = metinKutusu(QStringLiteral("BelgeSayi"));
+    NeredenGeldigi = yazilirKutu(QStringLiteral("NeredenGeldigi"), this);
+    for (QWidget* k : std::initializer_list<QWidget*>{Tarih, KabulTarih, KabulSayi, BelgeSayi})
+        k->setMaximumWidth(fontMetrics().averageCharWidth() * 14);
+    TeslimAlan->setMinimumWidth(fontMetrics().averageCharWidth() * 30);
+    NeredenGeldigi->setMinimumWidth(fontMetrics().averageCharWidth() * 26);
+    Command7 = new QPushButton(QStringLiteral("Getir"), this);
+    Command7->setObjectName(QStringLiteral("Command7"));
+    Label16 = etiket(QStringLiteral("Kabul Tarih"), KabulTarih);
+    Label16->setObjectName(QStringLiteral("Label16"));
+    Label7 = etiket(QStringLiteral("KabulSayı"), KabulSayi);
+    Label7->setObjectName(QStringLiteral("Label7"));
+    Label23 = etiket(QStringLiteral("Nereden Geldiği"), NeredenGeldigi);
+    Label23->setObjectName(QStringLiteral("Label23"));
+    bas->addWidget(etiket(QStringLiteral("Fiş No"), FisNo), 0, 0);
+    auto* numara = new QHBoxLayout;
+    numara->setSpacing(0);
+    numara->addWidget(FisNo);
+    numara->addWidget(BT);
+    bas->addLayout(numara, 0, 1, Qt::AlignLeft);
+    bas->addWidget(etiket(QStringLiteral("Fiş Tarih"), Tarih), 0, 2);
+    bas->addWidget(Tarih, 0, 3);
+    bas->addWidget(Label16, 0, 4);
+    bas->addWidget(KabulTarih, 0, 5);
+    bas->addWidget(Label7, 0, 6);
+    bas->addWidget(KabulSayi, 0, 7);
+    bas->addWidget(Command7, 0, 8, Qt::AlignLeft);
+    bas->addWidget(etiket(QStringLiteral("Teslim Alan"), TeslimAlan), 1, 0);
+    bas->addWidget(TeslimAlan, 1, 1);
+    bas->addWidget(etiket(QStringLiteral("Belge Tür"), BelgeTur), 1, 2);
+    bas->addWidget(BelgeTur, 1, 3);
+    bas->addWidget(etiket(QStringLiteral("BelgeSayı"), BelgeSayi), 1, 4);
+    bas->addWidget(BelgeSayi, 1, 5);
+    bas->addWidget(Label23, 1, 6);
+    bas->addWidget(NeredenGeldigi, 1, 7, 1, 2);
+    bas->setColumnStretch(9, 1);
+
+    Label11 = new QLabel(QStringLiteral(" <İnsert> Aşağı Kopyala, <Enter> Sağa Gitme, <Oklar> İstenilen Yöne gitme, "
+                                        "<Ctrl>+<Oklar> Sağ-Sol Başa Gitme, <End>HücreSonu, <Home>HücreBaşı"),
+                         this);
+    Label11->setObjectName(QStringLiteral("Label11"));
+    ana->addWidget(Label11);
+    Label15 = new QLabel(this);
+    Label15->setObjectName(QStringLiteral("Label15"));
+    Label15->setFrameShape(QFrame::StyledPanel);
+    ana->addWidget(Label15);
+
+    T = new FisIzgarasi(this);
+    T->setObjectName(QStringLiteral("T"));
+    ana->addWidget(T, 1);
+
+    auto* alt = new QHBoxLayout;
+    ana->addLayout(alt);
+    const auto adEtiketi = [&](QLabel*& e, const QString& ad) {
+        e = new QLabel(this);
+        e->setObjectName(ad);
+        e->setFrameShape(QFrame::StyledPanel);
+        e->setMinimumWidth(fontMetrics().averageCharWidth() * 24);
+        alt->addWidget(e);
+    };
+    adEtiketi(Label13, QStringLiteral("Label13"));
+    adEtiketi(Label19, QStringLiteral("Label19"));
+    adEtiketi(Label20, QStringLiteral("Label20"));
+    const auto toplamKutusu = [&](QLineEdit*& k, const QString& ad) {
+        k = metinKutusu(ad);
+        k->setReadOnly(true);
+        k->setAlignment(Qt::AlignRight);
+        k->setMaximumWidth(fontMetrics().averageCharWidth() * 12);
+        k->hide();
+        alt->addWidget(k);
+    };
+    toplamKutusu(Gelen, QStringLiteral("Gelen"));
+    toplamKutusu(Cikan, QStringLiteral("Cikan"));
+    toplamKutusu(Kalan, QStringLiteral("Kalan"));
+    TopEleGecen = new QLabel(this);
+    TopEleGecen->setObjectName(QStringLiteral("TopEleGecen"));
+    TopEleGecen->hide();
+    alt->addWidget(TopEleGecen);
+    alt->addStretch();
+
+    auto* yardim = new QGridLayout;
+    ana->addLayout(yardim);
+    Label9 = new QLabel(QStringLiteral(" Çıkış Yapılacak ise Üniteyi Belirtiniz . Malzeme Ambarda Kalacak ise Ünite "
+                                       "Belirtmeyiniz."),
+                        this);
+    Label9->setObjectName(QStringLiteral("Label9"));
+    yardim->addWidget(Label9, 0, 0);
+    yardim->addWidget(new QLabel(QStringLiteral("  Kuruş için . (Nokta) kullanınız."), this), 0, 1);
+    yardim->addWidget(
+        new QLabel(QStringLiteral("Ünite Belirtilmiş ise Çıkış Yapılmıştır. Ambara giren mal için Ünite Belirtmeyiniz."),
+                   this),
+        1, 0);
+    yardim->addWidget(new QLabel(QStringLiteral(" İşlem Tür Kod : 1-8 arası Giriş, 9-19 Çıkış Kodlarıdır."), this), 1,
+                      1);
+
+    auto* dugmeler1 = new QHBoxLayout;
+    auto* dugmeler2 = new QHBoxLayout;
+    ana->addLayout(dugmeler1);
+    ana->addLayout(dugmeler2);
+    const auto dugme = [this](QHBoxLayout* sira, QPushButton*& d, const QString& ad, const QString& baslik) {
+        d = new QPushButton(baslik, this);
+        d->setObjectName(ad);
+        sira->addWidget(d);
+    };
+    dugme(dugmeler1, cd2, QStringLiteral("cd2"), QStringLiteral("F1 Kayıt"));
+    dugme(dugmeler1, Cd4, QStringLiteral("Cd4"), QStringLiteral("F2  Yaz"));
+    dugme(dugmeler1, cd5, QStringLiteral("cd5"), QStringLiteral("F5  Sil"));
+    dugme(dugmeler1, Command2, QStringLiteral("Command2"), QStringLiteral("F6 Satırı Sil"));
+    dugme(dugmeler1, CmdKDVEkle, QStringLiteral("CmdKDVEkle"), QStringLiteral("Ctrl+F6  KDV Ekle"));
+    dugme(dugmeler1, Cyaz2, QStringLiteral("Cyaz2"), QStringLiteral("F7_ İstek "));
+    dugme(dugmeler1, Command8, QStringLiteral("Command8"), QStringLiteral("F8 Malzeme Sınıf"));
+    dugmeler1->addStretch();
+    dugme(dugmeler2, Command6, QStringLiteral("Command6"), QStringLiteral("F9 Hesap Rapor"));
+    dugme(dugmeler2, cd3, QStringLiteral("cd3"), QStringLiteral("F10  Malzeme Liste"));
+    dugme(dugmeler2, Cmd9, QStringLiteral("Cmd9"), QStringLiteral("Shift F4 HesapYaz"));
+    dugme(dugmeler2, Liste, QStringLiteral("Liste"), QStringLiteral("Liste"));
+    dugme(dugmeler2, Zimmet, QStringLiteral("Zimmet"), QStringLiteral("Zimmet"));
+    dugmeler2->addStretch();
+    dugme(dugmeler2, cd8, QStringLiteral("cd8"), QStringLiteral("Çıkış"));
+    DurumSatiriEkle(ana);
+
+    // The editors float over the grid's current cell, the movement list over
+    // the whole grid.
+    TE1 = metinKutusu(QStringLiteral("TE1"));
+    HesKod = yazilirKutu(QStringLiteral("HesKod"), this);
+    Detay3 = yazilirKutu(QStringLiteral("Detay3"), this);
+    UniteAd = yazilirKutu(QStringLiteral("UniteAd"), this);
+    IslemTur = yazilirKutu(QStringLiteral("IslemTur"), this);
+    IslemTur->addItems(FisKayit::IslemTurleri());
+    TDate = new TarihSecici(this);
+    TDate->setObjectName(QStringLiteral("TDate"));
+    for (QComboBox* kutu : {HesKod, Detay3, UniteAd, IslemTur})
+        kutu->view()->setMinimumWidth(fontMetrics().averageCharWidth() * 40);
+    for (QWidget* e : std::initializer_list<QWidget*>{TE1, HesKod, Detay3, UniteAd, IslemTur, TDate})
+        e->hide();
+    L3 = new ListeIzgarasi(this);
+    L3->setObjectName(QStringLiteral("L3"));
+    L3->Genislikler(FisSatir::HareketGenislikleri());
+    L3->Basliklar(FisSatir::HareketBasliklari());
+    L3->setToolTip(QStringLiteral("Liste dışında herhangibir yere tıklarsanız, Hareket Listesi Kaybolur."));
+    L3->hide();
+
+    const QList<QWidget*> sekmeSirasi{FisNo, Tarih, KabulTarih, KabulSayi, TeslimAlan, BelgeTur, BelgeSayi,
+                                      NeredenGeldigi, T};
+    for (qsizetype i = 1; i < sekmeSirasi.size(); ++i)
+        setTabOrder(sekmeSirasi[i - 1], sekmeSirasi[i]);
+    for (QWidget* w : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        if (w->focusPolicy() != Qt::NoFocus)
+            w->installEventFilter(this);
+    T->viewport()->installEventFilter(this);
+
+    connect(T, &FisIzgarasi::HucreDegisti, this, &FIS_K::HucreDegisti);
+    connect(T->verticalScrollBar(), &QScrollBar::valueChanged, this, &FIS_K::EditorYerlestir);
+    connect(T->horizontalScrollBar(), &QScrollBar::valueChanged, this, &FIS_K::EditorYerlestir);
+    connect(TE1, &QLineEdit::textChanged, this, [this](const QString& metin) {
+        const QString buyuk = FisSatir::BuyukHarf(metin);
+        if (buyuk != metin) {
+            const int yer = TE1->cursorPosition();
+            TE1->setText(buyuk);
+            TE1->setCursorPosition(yer);
+            return;
+        }
+        HucreYaz(T->Col(), metin);
+    });
+    // What is typed over the code, unit and transaction columns is taken as
+    // it stands: no code has to exist.
+    connect(HesKod->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& m) { HucreYaz(1, m); });
+    connect(UniteAd->lineEdit(), &QLineEdit::textEdited, this,
+            [this](const QString& m) { HucreYaz(FisSatir::UniteSutunu, m); });
+    connect(IslemTur->lineEdit(), &QLineEdit::textEdited, this,
+            [this](const QString& m) { HucreYaz(FisSatir::IslemSutunu, m); });
+    connect(TDate, &QDateEdit::dateChanged, this, [this] { HucreYaz(FisSatir::TarihSutunu, TDate->Metin()); });
+    connect(HesKod, &QComboBox::activated, this, &FIS_K::HesKodSecildi);
+    connect(Detay3, &QComboBox::activated, this, &FIS_K::Detay3Secildi);
+    connect(UniteAd, &QComboBox::activated, this, &FIS_K::UniteAdSecildi);
+    connect(IslemTur, &QComboBox::activated, this,
+            [this](int sira) { HucreYaz(FisSatir::IslemSutunu, QString::number(sira + 1)); });
+
+    connect(BTYukari, &QToolButton::clicked, this, [this] { Adim(1, true); });
+    connect(BTAsagi, &QToolButton::clicked, this, [this] { Adim(-1, true); });
+    connect(Command7, &QPushButton::clicked, this, [this] {
+        if (Val(FisNo->text()) == 0) {
+            Bildir(QStringLiteral("Bir Fiş No girmek zorundasınız.."));
+            return;
+        }
+        if (!Getir())
+            SatirlariGetir();
+    });
+    connect(cd2, &QPushButton::clicked, this, &FIS_K::Kaydet);
+    connect(cd5, &QPushButton::clicked, this, &FIS_K::Sil);
+    connect(Command2, &QPushButton::clicked, this, &FIS_K::SatirSil);
+    connect(Command8, &QPushButton::clicked, this, &FIS_K::SinifEkraniAc);
+    connect(Command6, &QPushButton::clicked, this, &FIS_K::Command6Komutu);
+    connect(Cmd9, &QPushButton::clicked, this, &FIS_K::HareketYazdir);
+    connect(cd3, &QPushButton::clicked, this, [this] {
+        if (T->Col() != 0 && T->Col() != 2)
+            HazirDegil();
+    });
+    for (QPushButton* d : {Cd4, CmdKDVEkle, Cyaz2, Liste, Zimmet})
+        connect(d, &QPushButton::clicked, this, &FIS_K::HazirDegil);
+    connect(cd8, &QPushButton::clicked, this, &QWidget::close);
+
+    TusTanimla(QKeySequence(Qt::Key_F1), [this] {
+        if (!FisNo->text().trimmed().isEmpty())
+            Kaydet();
+    });
+    TusTanimla(QKeySequence(Qt::Key_F2), [this] { HazirDegil(); });
+    TusTanimla(QKeySequence(Qt::Key_F3), [this] { Yeni(); });
+    TusTanimla(QKeySequence(Qt::Key_F5), [this] { Sil(); });
+    TusTanimla(QKeySequence(Qt::Key_F6), [this] { SatirSil(); });
+    TusTanimla(QKeySequence(Qt::CTRL | Qt::Key_F6), [this] {
+        if (T->Col() == 6)
+            HazirDegil();
+    });
+    TusTanimla(QKeySequence(Qt::Key_F7), [this] { HazirDegil(); });
+    // F8 typed in the line editor deletes the row as well.
+    TusTanimla(QKeySequence(Qt::Key_F8), [this] {
+        if (QApplication::focusWidget() == TE1)
+            SatirSil();
+        SinifEkraniAc();
+    });
+    for (const Qt::KeyboardModifiers ek : {Qt::KeyboardModifiers(), Qt::KeyboardModifiers(Qt::ShiftModifier),
+                                           Qt::KeyboardModifiers(Qt::ControlModifier),
+                                           Qt::KeyboardModifiers(Qt::AltModifier)})
+        TusTanimla(QKeySequence(ek | Qt::Key_F9), [this] { Command6Komutu(); });
+    TusTanimla(QKeySequence(Qt::Key_F10), [this] { HazirDegil(); });
+    TusTanimla(QKeySequence(Qt::Key_Insert), [this] { AsagiKopyala(); });
+
+    GridHazirla();
+    if (Val(Baglam().CalisYil) < 1900) {
+        Bildir(QStringLiteral(" Çalışma Yılını Kontrol ediniz. "));
+    } else {
+        // Today's day and month in the working year, as a cleared screen has it.
+        FisEkrani bos;
+        bos.CalisYil = Baglam().CalisYil;
+        FisKayit::Temizle(bos);
+        Tarih->setText(bos.Tarih);
+        KabulTarih->setText(bos.Tarih);
+        Urunler();
+    }
+    resize(1320, 820);
+    FisNo->setFocus();
+}
+
+void FIS_K::KipAyarla(const QVariantMap& kip)
+{
+    for (auto i = kip.cbegin(); i != kip.cend(); ++i) {
+        const QString deger = i.value().toString();
+        if (i.key() == u"ilk1")
+            ilk1 = deger;
+        else if (i.key() == u"FCins")
+            FCins = deger;
+        else if (i.key() == u"Hangi")
+            Hangi = deger;
+        else if (i.key() == u"Label2")
+            Label2->setText(deger);
+        else if (i.key() == u"IslemTur")
+            IslemTur->setEditText(deger);
+        else if (i.key() == u"CikisGizle" && i.value().toBool())
+            for (QWidget* w : std::initializer_list<QWidget*>{KabulSayi, KabulTarih, Label16, Label7, Label23,
+                                                              NeredenGeldigi})
+                w->hide();
+    }
+}
+
+bool FIS_K::event(QEvent* olay)
+{
+    if (olay->type() == QEvent::WindowActivate)
+        Etkinlesti();
+    return KartEkrani::event(olay);
+}
+
+void FIS_K::Etkinlesti()
+{
+    if (ilk1 == u"1")
+        EnSon();
+    if (Hangi == u"G") {
+        T->Baslik(5, QStringLiteral("Miktarı "));
+        T->Baslik(7, QStringLiteral("FaturaTarih"));
+    } else {
+        if (Hangi == u"C") {
+            T->Baslik(5, QString());
+            T->Genislik(5, 100);
+        }
+        T->Baslik(7, QStringLiteral("BelgeTarih "));
+    }
+    EditorYerlestir();
+}
+
+FisEkrani FIS_K::Ekran() const
+{
+    FisEkrani fis;
+    fis.FisNo = FisNo->text();
+    fis.Tarih = Tarih->text();
+    fis.FCins = FCins;
+    fis.Hangi = Hangi;
+    fis.CalisYil = Baglam().CalisYil;
+    fis.CalisAy = Baglam().CalisAy;
+    fis.KabulSayi = KabulSayi->text();
+    fis.KabulTarih = KabulTarih->text();
+    fis.TeslimAlan = TeslimAlan->currentText();
+    fis.NeredenGeldigi = NeredenGeldigi->currentText();
+    fis.BelgeTur = BelgeTur->currentText();
+    fis.BelgeSayi = BelgeSayi->text();
+    fis.Satirlar = T->Hucreler();
+    return fis;
+}
+
+void FIS_K::BasYaz(const FisEkrani& fis)
+{
+    FisNo->setText(fis.FisNo);
+    Tarih->setText(fis.Tarih);
+    KabulTarih->setText(fis.KabulTarih);
+    KabulSayi->setText(fis.KabulSayi);
+    BelgeSayi->setText(fis.BelgeSayi);
+    TeslimAlan->setEditText(fis.TeslimAlan);
+    NeredenGeldigi->setEditText(fis.NeredenGeldigi);
+    BelgeTur->setEditText(fis.BelgeTur);
+}
+
+bool FIS_K::Dene(const std::function<void()>& is, const QString& basarisiz)
+{
+    bool oldu = false;
+    Komut([&] {
+        try {
+            is();
+        } catch (const Hata&) {
+            if (!basarisiz.isNull())
+                Durum(basarisiz);
+            throw;
+        }
+        oldu = true;
+    });
+    return oldu;
+}
+
+void FIS_K::HazirDegil()
+{
+    Bildir(hazirDegil);
+}
+
+void FIS_K::Kaydet()
+{
+    const QString onceki = DurumSatiri()->text();
+    Durum(QStringLiteral("      Lütfen Bekleyiniz  ...  "));
+    FisEkrani fis = Ekran();
+    const auto aySorusu = [this] {
+        // The question is answered under the normal pointer.
+        QApplication::restoreOverrideCursor();
+        const bool devam =
+            Sor(QStringLiteral(" Bilgisayar Tarihi, Çalışılan Aydan Farklı. Kayda Devam edilecek mi ?. \n"
+                               " (Çalışma Ay 'ını Genel, Sabit Bilgiler 'den Değiştiriniz.)"));
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+        return devam;
+    };
+    KayitSonucu sonuc = KayitSonucu::Vazgecildi;
+    if (!Dene([&] { sonuc = FisKayit::Kaydet(Baglam().Klasor, fis, aySorusu); },
+              QStringLiteral("  Kayıt yapılamıyor.  ")))
+        return;
+    switch (sonuc) {
+    case KayitSonucu::FisNoYok:
+        Durum(onceki);
+        Bildir(QStringLiteral("Fiş No Yazınız. "));
+        FisNo->setFocus();
+        break;
+    case KayitSonucu::IlkSatirBos:
+        Durum(onceki);
+        break;
+    case KayitSonucu::Vazgecildi:
+        break;
+    case KayitSonucu::Kaydedildi:
+        // The save filled the empty dates.
+        KabulTarih->setText(fis.KabulTarih);
+        T->HucreleriYaz(fis.Satirlar);
+        Yaz2();
+        Durum(QStringLiteral("        Kayıt Yapıldı ..   "));
+        FisNo->setFocus();
+        break;
+    }
+}
+
+bool FIS_K::Getir()
+{
+    if (FisNo->text().trimmed().isEmpty())
+        return false;
+    FisEkrani fis = Ekran();
+    bool var = false;
+    if (!Dene([&] { var = FisKayit::Getir(Baglam().Klasor, fis); }, QStringLiteral("Kayıt getirilemiyor.")))
+        return false;
+    if (!var) {
+        Temizle();
+        return false;
+    }
+    BasYaz(fis);
+    T->HucreSec(1, T->Col());
+    SatirlariGetir();
+    return true;
+}
+
+void FIS_K::SatirlariGetir()
+{
+    FisSatirlari satirlar;
+    if (!Dene([&] {
+            satirlar = FisKayit::SatirlariGetir(Baglam().Klasor, FisNo->text(), FCins, Baglam().CalisYil);
+        },
+              QStringLiteral("Kayıt getirilemiyor.")))
+        return;
+    if (satirlar.hucreler.isEmpty()) {
+        T->HucreleriYaz({});
+        Durum(QStringLiteral("   Kayıt Bulunamadı  ..  "));
+        GridHazirla();
+        return;
+    }
+    T->HucreleriYaz(satirlar.hucreler);
+    m_sinifAdlari.clear();
+    for (const QStringList& satir : satirlar.hucreler)
+        m_sinifAdlari << satir.at(2);
+    m_islemAdlari = satirlar.islemAdlari;
+    m_uniteAdlari = satirlar.uniteAdlari;
+    HucreDegisti(T->Row(), T->Col());
+}
+
+void FIS_K::Sil()
+{
+    if (Val(FisNo->text().trimmed()) == 0)
+        return;
+    Durum(QStringLiteral("   Fiş Silinecek ..  "));
+    if (!Sor(QStringLiteral("Bu Fişi Silmek istiyor musunuz ?"), QStringLiteral(" Siliniyor. "),
+             QMessageBox::Critical))
+        return;
+    if (!Dene([this] { FisKayit::Sil(Baglam().Klasor, Ekran()); }))
+        return;
+    Temizle();
+    FisNo->setFocus();
+    Durum(QStringLiteral("   Fiş Silindi .."));
+}
+
+void FIS_K::EnSon()
+{
+    // Set first: a failing proposal must not come back at every activation.
+    ilk1 = QStringLiteral("a");
+    Dene([this] { FisNo->setText(QString::number(FisKayit::EnSon(Baglam().Klasor, FCins, Baglam().CalisYil))); });
+}
+
+void FIS_K::Temizle()
+{
+    UniteAd->setEditText(QString());
+    FisEkrani fis = Ekran();
+    FisKayit::Temizle(fis);
+    BasYaz(fis);
+    T->HucreleriYaz(fis.Satirlar);
+    GridHazirla();
+}
+
+void FIS_K::Yeni()
+{
+    FisNo->clear();
+    Temizle();
+    EnSon();
+    FisNo->setFocus();
+}
+
+void FIS_K::GridHazirla()
+{
+    const QStringList basliklar = FisSatir::Basliklar();
+    const QList<int> genislikler = FisSatir::Genislikler();
+    for (int c = 0; c < FisEkrani::SutunSayisi; ++c) {
+        T->Baslik(c, basliklar.at(c));
+        T->Genislik(c, genislikler.at(c));
+    }
+    T->HucreSec(1, 0);
+    HucreDegisti(1, 0);
+}
+
+void FIS_K::Urunler()
+{
+    Dene([this] {
+        listeDoldur(HesKod, FisSatir::HesKodListesi(Baglam().Klasor));
+        listeDoldur(Detay3, FisSatir::SinifAdlari(Baglam().Klasor));
+    });
+}
+
+void FIS_K::Adim(int fark, bool satirlarda)
+{
+    if (FisNo->text().isEmpty())
+        return;
+    const double no = Val(FisNo->text());
+    if (fark < 0 && no <= 1)
+        return;
+    FisNo->setText(SayiMetni(no + fark));
+    if (!Getir() && satirlarda)
+        SatirlariGetir();
+}
+
+QString FIS_K::Hucre(int sutun) const
+{
+    return T->TextMatrix(T->Row(), sutun);
+}
+
+void FIS_K::HucreYaz(int sutun, const QString& metin)
+{
+    T->HucreYaz(T->Row(), sutun, metin);
+}
+
+void FIS_K::HucreDegisti(int satir, int sutun)
+{
+    Label13->setText(m_sinifAdlari.value(satir - 1));
+    Label19->setText(m_islemAdlari.value(satir - 1));
+    Label20->setText(m_uniteAdlari.value(satir - 1));
+    CmdKDVEkle->setVisible(sutun == 6);
+    Label15->setText(FisSatir::Ipucu(sutun));
+    if (sutun == 4 && Hucre(4).isEmpty())
+        HucreYaz(4, QStringLiteral("ADET"));
+    Yaz2();
+}
+
+void FIS_K::Yaz2()
+{
+    const int sutun = T->Col();
+    const QString metin = Hucre(sutun);
+    TE1->setText(metin);
+    switch (sutun) {
+    case 1:
+        HesKod->setEditText(metin);
+        break;
+    case 2:
+        Detay3->setEditText(metin);
+        break;
+    case FisSatir::TarihSutunu:
+        TDate->MetinYaz(metin);
+        break;
+    case FisSatir::UniteSutunu:
+        UniteAd->setEditText(metin);
+        break;
+    case FisSatir::IslemSutunu:
+        IslemTur->setEditText(metin);
+        break;
+    }
+    EditorYerlestir();
+}
+
+QWidget* FIS_K::SutunEditoru(int sutun) const
+{
+    switch (sutun) {
+    case 1:
+        return HesKod;
+    case 2:
+        return Detay3;
+    case FisSatir::TarihSutunu:
+        return TDate;
+    case FisSatir::UniteSutunu:
+        return UniteAd;
+    case FisSatir::IslemSutunu:
+        return IslemTur;
+    default:
+        return TE1;
+    }
+}
+
+void FIS_K::EditorYerlestir()
+{
+    const QRect alan = T->HucreAlani();
+    const bool gorunur = T->isVisible() && T->Row() > 0 && T->viewport()->rect().intersects(alan);
+    const QRect hucre(T->viewport()->mapTo(this, alan.topLeft()), alan.size());
+    const int sutun = T->Col();
+    QWidget* editor = SutunEditoru(sutun);
+    for (QWidget* e : std::initializer_list<QWidget*>{HesKod, Detay3, TDate, UniteAd, IslemTur})
+        if (e != editor)
+            e->hide();
+    // The line editor stands a little larger than the cell, and stays under
+    // the date, unit and transaction editors as well.
+    const bool satirKutusu = sutun != 1 && sutun != 2;
+    TE1->setGeometry(hucre.adjusted(0, -T->TwipPiksel(30), T->TwipPiksel(250), T->TwipPiksel(30)));
+    TE1->setVisible(gorunur && satirKutusu);
+    if (editor != TE1) {
+        editor->setGeometry(hucre);
+        editor->setVisible(gorunur);
+        editor->raise();
+    }
+    L3->setGeometry(T->geometry());
+    L3->raise();
+}
+
+void FIS_K::EditorOdak(int sutun)
+{
+    QWidget* editor = SutunEditoru(sutun);
+    editor->setFocus();
+    if (editor == TE1)
+        MetinSec(TE1);
+}
+
+bool FIS_K::SatirGit(int satir, int sutun)
+{
+    if (satir > FisSatir::SatirSayisi) {
+        Bildir(QStringLiteral("Bir fişe en çok 25 satır yazılabilir."));
+        return false;
+    }
+    T->HucreSec(satir, sutun);
+    return true;
+}
+
+bool FIS_K::eventFilter(QObject* nesne, QEvent* olay)
+{
+    if (qobject_cast<SinifTani*>(nesne)) {
+        // The class screen closed: a class saved there can be picked now.
+        if (olay->type() == QEvent::Close)
+            Urunler();
+        return KartEkrani::eventFilter(nesne, olay);
+    }
+    switch (olay->type()) {
+    case QEvent::ShortcutOverride:
+        // Esc closes the screen only from the number; elsewhere it is a key.
+        if (static_cast<QKeyEvent*>(olay)->key() == Qt::Key_Escape && nesne != FisNo) {
+            olay->accept();
+            return true;
+        }
+        break;
+    case QEvent::KeyPress: {
+        auto* tus = static_cast<QKeyEvent*>(olay);
+        if (tus->key() == Qt::Key_Escape) {
+            EscTusu(nesne);
+            return true;
+        }
+        if (nesne == FisNo)
+            return FisNoTusu(tus);
+        if (nesne == T)
+            return IzgaraTusu(tus);
+        if (nesne == TE1)
+            return TE1Tusu(tus);
+        if (nesne == HesKod || nesne == Detay3 || nesne == UniteAd || nesne == IslemTur || nesne == TDate)
+            return EditorTusu(static_cast<QWidget*>(nesne), tus);
+        if (nesne == Tarih || nesne == KabulTarih || nesne == KabulSayi || nesne == TeslimAlan || nesne == BelgeTur
+            || nesne == BelgeSayi || nesne == NeredenGeldigi)
+            return BasTusu(static_cast<QWidget*>(nesne), tus);
+        break;
+    }
+    case QEvent::FocusIn: {
+        // The lists are read again on entering, not when a message box or a
+        // list closes.
+        const Qt::FocusReason neden = static_cast<QFocusEvent*>(olay)->reason();
+        if (neden == Qt::ActiveWindowFocusReason || neden == Qt::PopupFocusReason)
+            break;
+        if (nesne == TeslimAlan)
+            Dene([this] { listeDoldur(TeslimAlan, FisSatir::TeslimAlanlar(Baglam().Klasor, FCins)); });
+        else if (nesne == NeredenGeldigi)
+            Dene([this] { listeDoldur(NeredenGeldigi, FisSatir::NeredenGeldiler(Baglam().Klasor, FCins)); });
+        else if (nesne == UniteAd)
+            Dene([this] { listeDoldur(UniteAd, FisSatir::UniteAdlari(Baglam().Klasor)); });
+        break;
+    }
+    case QEvent::FocusOut:
+        if (nesne == L3 && static_cast<QFocusEvent*>(olay)->reason() == Qt::MouseFocusReason)
+            L3Kapat();
+        break;
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::Show:
+        if (nesne == T || nesne == T->viewport())
+            EditorYerlestir();
+        break;
+    default:
+        break;
+    }
+    return KartEkrani::eventFilter(nesne, olay);
+}
+
+void FIS_K::EscTusu(QObject* nesne)
+{
+    if (nesne == TE1) {
+        // Esc blanks the cell; there is nothing to undo to.
+        TE1->clear();
+        T->setFocus();
+    } else if (nesne == L3) {
+        L3Kapat();
+        T->setFocus();
+    } else {
+        FisNo->setFocus();
+    }
+}
+
+void FIS_K::TusuGonder(QWidget* hedef, QKeyEvent* olay)
+{
+    QKeyEvent kopya(olay->type(), olay->key(), olay->modifiers(), olay->text());
+    QApplication::sendEvent(hedef, &kopya);
+}
+
+bool FIS_K::FisNoTusu(QKeyEvent* olay)
+{
+    if (enterMi(olay)) {
+        if (FisNo->text().trimmed().isEmpty()) {
+            Bildir(QStringLiteral("Bir Fiş No girmek zorundasınız.."), QString(), QMessageBox::Critical);
+            return true;
+        }
+        if (!Getir())
+            SatirlariGetir();
+        Tarih->setFocus();
+        return true;
+    }
+    switch (olay->key()) {
+    case Qt::Key_Up:
+        return true;
+    case Qt::Key_Down:
+        Tarih->setFocus();
+        return true;
+    case Qt::Key_Home:
+        FisNo->setText(QStringLiteral("1"));
+        Getir();
+        return true;
+    case Qt::Key_PageDown:
+        Adim(1, false);
+        return true;
+    case Qt::Key_PageUp:
+        Adim(-1, false);
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool FIS_K::BasTusu(QWidget* kutu, QKeyEvent* olay)
+{
+    const bool ileri = enterMi(olay) || olay->key() == Qt::Key_Down;
+    if (!ileri && olay->key() != Qt::Key_Up)
+        return false;
+    // The path skips what an issue voucher hides; past its end lies the grid.
+    const QList<QWidget*> yol{FisNo, Tarih, KabulTarih, KabulSayi, TeslimAlan, BelgeTur, BelgeSayi, NeredenGeldigi};
+    for (qsizetype i = yol.indexOf(kutu) + (ileri ? 1 : -1); i >= 0; i += ileri ? 1 : -1) {
+        if (i == yol.size()) {
+            T->setFocus();
+            return true;
+        }
+        if (yol[i]->isVisibleTo(this)) {
+            yol[i]->setFocus();
+            return true;
+        }
+    }
+    return true;
+}
+
+bool FIS_K::IzgaraTusu(QKeyEvent* olay)
+{
+    if (enterMi(olay)) {
+        IzgaraEnter();
+        return true;
+    }
+    if (!yaziTusuMu(olay))
+        return false;
+    const int satir = T->Row();
+    const int sutun = T->Col();
+    switch (sutun) {
+    case 1:
+    case 2:
+    case FisSatir::UniteSutunu:
+    case FisSatir::IslemSutunu: {
+        auto* kutu = static_cast<QComboBox*>(SutunEditoru(sutun));
+        kutu->setFocus();
+        MetinSec(kutu);
+        TusuGonder(kutu->lineEdit(), olay);
+        return true;
+    }
+    case FisSatir::TarihSutunu:
+        if (olay->key() == Qt::Key_Space && !TDate->Bos()) {
+            TDate->MetinYaz(QString());
+            HucreYaz(FisSatir::TarihSutunu, QString());
+        } else {
+            TDate->GunYaz(Saat::Bugun());
+            HucreYaz(FisSatir::TarihSutunu, TDate->Metin());
+            TDate->setFocus();
+        }
+        return true;
+    default:
+        if (sutun > FisSatir::SonSutun && !SatirGit(satir + 1, 0))
+            return true;
+        EditorOdak(T->Col());
+        TusuGonder(TE1, olay);
+        return true;
+    }
+}
+
+void FIS_K::IzgaraEnter()
+{
+    const int satir = T->Row();
+    const int sutun = T->Col();
+    switch (sutun) {
+    case 1:
+        MalzAdGetir();
+        T->HucreSec(satir, 2);
+        EditorOdak(2);
+        return;
+    case 2:
+    case FisSatir::UniteSutunu:
+    case FisSatir::IslemSutunu:
+        EditorOdak(sutun);
+        return;
+    case FisSatir::TarihSutunu:
+        // Enter is a key like any other here: the date becomes today's.
+        TDate->GunYaz(Saat::Bugun());
+        HucreYaz(FisSatir::TarihSutunu, TDate->Metin());
+        TDate->setFocus();
+        return;
+    default: {
+        const FisSatir::EnterSonucu sonuc = FisSatir::GridEnter({satir, sutun}, Hucre(6));
+        if (!sonuc.tarih.isNull())
+            HucreYaz(FisSatir::TarihSutunu, sonuc.tarih);
+        if (SatirGit(sonuc.hucre.satir, sonuc.hucre.sutun))
+            EditorOdak(sonuc.hucre.sutun);
+    }
+    }
+}
+
+bool FIS_K::TE1Tusu(QKeyEvent* olay)
+{
+    const int satir = T->Row();
+    const int sutun = T->Col();
+    const auto git = [this](int r, int c) {
+        T->setFocus();
+        T->HucreSec(r, c);
+        return true;
+    };
+    if (enterMi(olay)) {
+        T->setFocus();
+        if (sutun < FisSatir::SonSutun)
+            T->HucreSec(satir, sutun + 1);
+        return true;
+    }
+    switch (olay->key()) {
+    case Qt::Key_Up:
+        return satir > 1 && git(satir - 1, sutun);
+    case Qt::Key_Down:
+        return satir < FisSatir::SatirSayisi && git(satir + 1, sutun);
+    case Qt::Key_Left:
+        return satir < FisSatir::SatirSayisi && sutun > 1 && git(satir, sutun - 1);
+    case Qt::Key_Right:
+        return sutun < FisSatir::SonSutun && git(satir, sutun + 1);
+    default:
+        return false;
+    }
+}
+
+bool FIS_K::EditorTusu(QWidget* editor, QKeyEvent* olay)
+{
+    const int satir = T->Row();
+    const int sutun = T->Col();
+    const bool enter = enterMi(olay);
+    if (olay->key() == Qt::Key_Down) {
+        if (satir < FisSatir::SatirSayisi)
+            T->setFocus();
+        SatirGit(satir + 1, sutun);
+        return true;
+    }
+    if (olay->key() == Qt::Key_Left) {
+        if (satir < FisSatir::SatirSayisi && sutun > 1) {
+            T->setFocus();
+            T->HucreSec(satir, sutun - 1);
+        }
+        return true;
+    }
+    if (!enter && olay->key() != Qt::Key_Right)
+        return false;
+    T->setFocus();
+    if (editor == HesKod) {
+        // The screen's Enter on the code column adds the step to the name.
+        if (enter)
+            MalzAdGetir();
+        T->HucreSec(satir, 2);
+    } else if (editor == Detay3) {
+        T->HucreSec(satir, 3);
+    }
+    return true;
+}
+
+void FIS_K::MalzAdGetir()
+{
+    const QString kod = HesKod->currentText();
+    if (kod.isEmpty())
+        return;
+    std::optional<QString> ad;
+    if (!Dene([&] { ad = FisSatir::MalzAdGetir(Baglam().Klasor, kod); }) || !ad)
+        return;
+    HucreYaz(2, *ad);
+    HucreYaz(1, kod);
+}
+
+void FIS_K::HesKodSecildi(int sira)
+{
+    std::optional<FisSatir::Sinif> sinif;
+    if (!Dene([&] { sinif = FisSatir::KodlaSinif(Baglam().Klasor, HesKod->itemText(sira)); }) || !sinif)
+        return;
+    HucreYaz(1, sinif->HesapKod);
+    HucreYaz(2, sinif->MalzAdi);
+    HucreYaz(13, sinif->KDV1);
+    HucreYaz(4, sinif->Birimi);
+    T->setFocus();
+    T->HucreSec(T->Row(), 3);
+}
+
+void FIS_K::Detay3Secildi(int sira)
+{
+    const QString ad = Detay3->itemText(sira);
+    std::optional<FisSatir::Sinif> sinif;
+    if (!Dene([&] { sinif = FisSatir::AdlaSinif(Baglam().Klasor, ad); }) || !sinif)
+        return;
+    HucreYaz(1, sinif->HesapKod);
+    HucreYaz(2, ad);
+    HucreYaz(13, sinif->KDV1);
+    T->setFocus();
+    T->HucreSec(T->Row(), 3);
+}
+
+void FIS_K::UniteAdSecildi(int sira)
+{
+    const QString ad = UniteAd->itemText(sira);
+    std::optional<QString> kod;
+    if (!Dene([&] { kod = FisSatir::UniteKodu(Baglam().Klasor, ad); }) || !kod)
+        return;
+    HucreYaz(FisSatir::UniteSutunu, *kod);
+    while (m_uniteAdlari.size() < T->Row())
+        m_uniteAdlari << QString();
+    m_uniteAdlari[T->Row() - 1] = ad;
+    Label20->setText(ad);
+}
+
+void FIS_K::SatirSil()
+{
+    T->setFocus();
+    QList<QStringList> satirlar = T->Hucreler();
+    FisSatir::SatirSil(satirlar, T->Row());
+    T->HucreleriYaz(satirlar);
+    Yaz2();
+}
+
+void FIS_K::AsagiKopyala()
+{
+    const int satir = T->Row();
+    const int sutun = T->Col();
+    if (satir >= FisSatir::SatirSayisi) {
+        SatirGit(satir + 1, sutun);
+        return;
+    }
+    QList<QStringList> satirlar = T->Hucreler();
+    const bool asagi = FisSatir::AsagiKopyala(satirlar, {satir, sutun});
+    T->HucreleriYaz(satirlar);
+    if (asagi)
+        T->HucreSec(satir + 1, sutun);
+}
+
+void FIS_K::SinifEkraniAc()
+{
+    // One class screen at a time, as a form existed once.
+    if (!m_sinif) {
+        m_sinif = new SinifTani(Baglam(), this);
+        m_sinif->Hangi = QStringLiteral("Fis_K2");
+        m_sinif->AliciSec(this);
+        m_sinif->installEventFilter(this);
+    }
+    m_sinif->show();
+    m_sinif->raise();
+    m_sinif->activateWindow();
+}
+
+void FIS_K::SinifListesiYenile()
+{
+    Urunler();
+}
+
+void FIS_K::SinifAl(const QString& hesapKod, const QString& malzAdi, const QString& birimi, const QString& kdv)
+{
+    HucreYaz(1, hesapKod);
+    HucreYaz(2, malzAdi);
+    HucreYaz(4, birimi);
+    HucreYaz(15, kdv);
+    T->HucreSec(T->Row(), 3);
+}
+
+void FIS_K::OdakAl()
+{
+    activateWindow();
+    T->setFocus();
+}
+
+void FIS_K::Command6Komutu()
+{
+    const int sutun = T->Col();
+    const QString kod = Hucre(1);
+    const QString ozellik = Hucre(3);
+    if (kod.isEmpty() && ozellik.isEmpty()) {
+        Bildir(QStringLiteral("Seçili Hesap Kod veya Özellik-Marka Yok.  Belirtiniz. "));
+        return;
+    }
+    FisSatir::HareketListesi liste;
+    bool doldu = false;
+    if (sutun == 3 && !ozellik.isEmpty())
+        doldu = Dene([&] { liste = FisSatir::OzellikHareketListe(Baglam().Klasor, ozellik); });
+    else if ((sutun == 1 || sutun == 2) && !kod.isEmpty())
+        doldu = Dene([&] { liste = FisSatir::HesapHareketListe(Baglam().Klasor, kod); });
+    if (doldu)
+        HareketGoster(liste);
+    L3->show();
+    L3->raise();
+    Command6->hide();
+    TopEleGecen->hide();
+    L3->setFocus();
+}
+
+void FIS_K::HareketGoster(const FisSatir::HareketListesi& liste)
+{
+    L3->Satirlar(liste.satirlar);
+    L3->Basliklar(FisSatir::HareketBasliklari());
+    Gelen->setText(SayiMetni(liste.Gelen));
+    Cikan->setText(SayiMetni(liste.Cikan));
+    Kalan->setText(SayiMetni(liste.Kalan));
+    for (QLineEdit* k : {Gelen, Cikan, Kalan})
+        k->show();
+}
+
+void FIS_K::L3Kapat()
+{
+    L3->hide();
+    for (QLineEdit* k : {Gelen, Cikan, Kalan})
+        k->hide();
+    Command6->show();
+    TopEleGecen->show();
+}
+
+void FIS_K::HareketYazdir()
+{
+    Yazdir([this](Yazici& p) {
+        FisSatir::HareketYazdir(p, Hucre(1), Hucre(2), Tarih->text(), L3->Anlik(), TopEleGecen->text());
+    });
+}

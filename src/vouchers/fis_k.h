@@ -1,0 +1,167 @@
+#pragma once
+
+#include "fis_kayit.h"
+#include "fis_satir.h"
+#include "kart_ekrani.h"
+#include "sinif_alici.h"
+
+#include <QPointer>
+#include <QVariantMap>
+
+#include <functional>
+
+class FisIzgarasi;
+class ListeIzgarasi;
+class QComboBox;
+class QKeyEvent;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QToolButton;
+class SinifTani;
+class TarihSecici;
+
+// "Fiş Giriş-Düzeltme": the voucher typed from the keyboard, a head of boxes
+// over a grid of lines. The grid never edits: a box, a date editor or a
+// combo stands over its current cell and sends its value back.
+class FIS_K : public KartEkrani, public SinifAlici
+{
+    Q_OBJECT
+
+public:
+    explicit FIS_K(const CalismaBaglami& baglam, QWidget* parent = nullptr);
+
+    // The menu's mode values by control name: "ilk1" ("1" proposes a number
+    // at the next activation), "FCins", "Hangi", "Label2", "IslemTur", and
+    // "CikisGizle" (true hides what an issue voucher lacks, for good).
+    void KipAyarla(const QVariantMap& kip);
+
+    void Kaydet();
+    // Fetches the head and its lines; an unknown number empties the screen.
+    // True when the voucher exists.
+    bool Getir();
+    // Deletes the voucher on screen after asking.
+    void Sil();
+    // Proposes the next number of the kind in the working year.
+    void EnSon();
+    // Empties the screen for a new voucher; the number stays.
+    void Temizle();
+
+    void SinifListesiYenile() override;
+    void SinifAl(const QString& hesapKod, const QString& malzAdi, const QString& birimi,
+                 const QString& kdv) override;
+    void OdakAl() override;
+
+protected:
+    bool event(QEvent* olay) override;
+    bool eventFilter(QObject* nesne, QEvent* olay) override;
+
+private:
+    FisEkrani Ekran() const;
+    void BasYaz(const FisEkrani& fis);
+    // Runs a database step under the busy cursor; on failure the status line
+    // shows the given text (if any) and the error is shown.
+    bool Dene(const std::function<void()>& is, const QString& basarisiz = QString());
+    void HazirDegil();
+
+    void Etkinlesti();
+    void GridHazirla();
+    void SatirlariGetir();
+    void Urunler();
+    void Yeni();
+    // Page Up, Page Down and the arrows of BT.
+    void Adim(int fark, bool satirlarda);
+
+    QString Hucre(int sutun) const;
+    void HucreYaz(int sutun, const QString& metin);
+    void HucreDegisti(int satir, int sutun);
+    // Puts the editor of the current column over the cell with its text.
+    void Yaz2();
+    void EditorYerlestir();
+    QWidget* SutunEditoru(int sutun) const;
+    void EditorOdak(int sutun);
+    // Moves the current cell; a row past the grid's last is refused with a
+    // message.
+    bool SatirGit(int satir, int sutun);
+
+    bool BasTusu(QWidget* kutu, QKeyEvent* olay);
+    bool FisNoTusu(QKeyEvent* olay);
+    bool IzgaraTusu(QKeyEvent* olay);
+    void IzgaraEnter();
+    bool TE1Tusu(QKeyEvent* olay);
+    bool EditorTusu(QWidget* editor, QKeyEvent* olay);
+    void EscTusu(QObject* nesne);
+    void TusuGonder(QWidget* hedef, QKeyEvent* olay);
+
+    void MalzAdGetir();
+    void HesKodSecildi(int sira);
+    void Detay3Secildi(int sira);
+    void UniteAdSecildi(int sira);
+
+    void SatirSil();
+    void AsagiKopyala();
+    void SinifEkraniAc();
+
+    void Command6Komutu();
+    void HareketGoster(const FisSatir::HareketListesi& liste);
+    void L3Kapat();
+    void HareketYazdir();
+
+    QString ilk1;
+    QString FCins;
+    QString Hangi;
+    // Names the grid does not show, by row from the last fetch: a deleted
+    // row does not shift them.
+    QStringList m_sinifAdlari;
+    QStringList m_islemAdlari;
+    QStringList m_uniteAdlari;
+    QPointer<SinifTani> m_sinif;
+
+    QLabel* Label2;
+    QLineEdit* FisNo;
+    QWidget* BT;
+    QToolButton* BTYukari;
+    QToolButton* BTAsagi;
+    QLineEdit* Tarih;
+    QLabel* Label16;
+    QLineEdit* KabulTarih;
+    QLabel* Label7;
+    QLineEdit* KabulSayi;
+    QComboBox* TeslimAlan;
+    QComboBox* BelgeTur;
+    QLineEdit* BelgeSayi;
+    QLabel* Label23;
+    QComboBox* NeredenGeldigi;
+    QPushButton* Command7;
+    QLabel* Label11;
+    QLabel* Label15;
+    FisIzgarasi* T;
+    QLineEdit* TE1;
+    QComboBox* HesKod;
+    QComboBox* Detay3;
+    QComboBox* UniteAd;
+    QComboBox* IslemTur;
+    TarihSecici* TDate;
+    ListeIzgarasi* L3;
+    QLabel* Label13;
+    QLabel* Label19;
+    QLabel* Label20;
+    QLineEdit* Gelen;
+    QLineEdit* Cikan;
+    QLineEdit* Kalan;
+    QLabel* TopEleGecen;
+    QLabel* Label9;
+    QPushButton* cd2;
+    QPushButton* Cd4;
+    QPushButton* cd5;
+    QPushButton* Command2;
+    QPushButton* CmdKDVEkle;
+    QPushButton* Cyaz2;
+    QPushButton* Command8;
+    QPushButton* Command6;
+    QPushButton* cd3;
+    QPushButton* Cmd9;
+    QPushButton* Liste;
+    QPushButton* Zimmet;
+    QPushButton* cd8;
+};

@@ -1,0 +1,248 @@
+#include "fis_satir.h"
+
+#include "fis_kayit.h"
+#include "grid_yazdir.h"
+#include "kayit.h"
+#include "veritabani.h"
+#include "yazici.h"
+
+#include <QLocale>
+
+namespace {
+
+// The distinct non-empty values of a sorted one-column query: a value equal
+// to the one before it is left out.
+QStringList farkliDegerler(QSqlQuery q)
+{
+    QStringList degerler;
+    while (q.next()) {
+        const QString deger = q.value(0).toString();
+        if (!deger.isEmpty() && (degerler.isEmpty() || degerler.last() != deger))
+            degerler << deger;
+    }
+    return degerler;
+}
+
+FisSatir::HareketListesi hareketler(const QString& klasor, const QString& sql, const QString& deger)
+{
+    FisSatir::HareketListesi liste;
+    Veritabani vt(klasor, Dosya::Ayniyat);
+    QSqlQuery q = vt.Sorgu(sql, {deger});
+    while (q.next()) {
+        QStringList satir;
+        for (int i = 0; i < 8; ++i)
+            satir << q.value(i).toString();
+        liste.Gelen += Val(satir.at(3));
+        liste.Cikan += Val(satir.at(4));
+        liste.satirlar << satir;
+    }
+    liste.Kalan = liste.Gelen - liste.Cikan;
+    return liste;
+}
+
+}
+
+QStringList FisSatir::Basliklar()
+{
+    return {QStringLiteral("Sıra"),        QStringLiteral(" 3.Detay Kod"),   QStringLiteral("Malzeme Sınıfı"),
+            QStringLiteral("Özellik-Marka"), QStringLiteral("Birimi"),       QStringLiteral("Miktarı"),
+            QStringLiteral("BirimFiyat"),  QStringLiteral("FaturaTarih"),    QStringLiteral("Ünite"),
+            QStringLiteral("İşlem"),       QStringLiteral("ÇıkanMiktar"),    QStringLiteral("Kime Verildiği"),
+            QStringLiteral("AmbarNo"),     QStringLiteral("KDV"),            QStringLiteral("Ö.Kod"),
+            QString(),                     QString()};
+}
+
+QList<int> FisSatir::Genislikler()
+{
+    return {4, 1850, 2500, 3400, 910, 1000, 1220, 1300, 660, 660, 1000, 2300, 630, 630, 20, 700, 20};
+}
+
+QString FisSatir::Ipucu(int sutun)
+{
+    static const QStringList ipuclari = {
+        QString(60, u' '),
+        QStringLiteral(" Açılır Liste den Hesap Kod(3.Detay Kod) seç veya Yaz ve Enter.  Malzeme Sınıf Listesini F10 "
+                       "ile Ekrana getirip, seçebilirsiniz."),
+        QStringLiteral(" Açılır Liste den Malzeme Sınıf Adını seç. "),
+        QStringLiteral(" Malzeme Marka-Özelliğini Yazınız. ilk Harfi Belirtip F10 ile Süzme Yapabilirsiniz."),
+        QStringLiteral(" Ölçü Birimi (Adet, Kg, Metre, Litre, Top vb.) Yazınız.  "),
+        QStringLiteral(" Malzeme Miktarı-Adetini Yazınız .                                      "),
+        QStringLiteral(" Birim Fiyatı Yazınız.(Bir Adetinin Fiyatını)"),
+        QStringLiteral(" Fatura-Tutanak-Belge-Makbuz-Hibe-TeslimEvrakı  vs. Tarihini Yazınız.  "),
+        QStringLiteral(" Malzemenin Verildiği Üniteyi Seçin veya ÜniteKod Yazınız. Malzeme Ambarda kalacaksa Ünite "
+                       "Kod yazmayınız.  "),
+        QStringLiteral(" İşlem Türünü Seçiniz. F4 ile açılır listeden seçebilirsiniz."),
+        QStringLiteral(" Birime(veya Kişiye) verilen Çıkış Miktarını Yazınız.  "),
+        QStringLiteral(" Malzemeyi Kurum içinde Teslim Alan veya Kullanacak olanı Yazınız.  "),
+        QStringLiteral(" Ambar No Yazınız.(Tek ambar kullanıyorsanız Boş bırakılabilir). "),
+        // Speaks of the special code though the column holds the tax rate.
+        QStringLiteral(" Döküm aşmasında Filitre(Süzgeç) olabilecek Kod Yazınız.(Boş bırakılabilir). "),
+    };
+    return ipuclari.value(sutun);
+}
+
+QString FisSatir::BuyukHarf(const QString& metin)
+{
+    return QLocale(QLocale::Turkish).toUpper(metin);
+}
+
+FisSatir::EnterSonucu FisSatir::GridEnter(Hucre hucre, const QString& birimFiyat)
+{
+    // Kept from the days when the price column also took an account number.
+    static const QStringList sozcukler = {
+        QStringLiteral("KDV    "), QStringLiteral("Avans  "),     QStringLiteral("Borç   "),    QStringLiteral("İlçe.Verilen"),
+        QStringLiteral("Emanet "), QStringLiteral("KıymetliAyn"), QStringLiteral("NazımHesap"),
+    };
+    EnterSonucu sonuc{hucre, QString()};
+    Hucre& h = sonuc.hucre;
+    if (h.sutun > SonSutun) {
+        ++h.satir;
+        h.sutun = 0;
+    }
+    if (h.sutun < SonSutun)
+        ++h.sutun;
+    if (h.sutun == TarihSutunu) {
+        const int kod = birimFiyat.size() == 1 ? birimFiyat.at(0).digitValue() : -1;
+        if (kod >= 2 && kod <= 8)
+            sonuc.tarih = sozcukler.at(kod - 2);
+    }
+    if (h.sutun < 10)
+        ++h.sutun;
+    return sonuc;
+}
+
+bool FisSatir::AsagiKopyala(QList<QStringList>& satirlar, Hucre hucre)
+{
+    const QStringList& ust = satirlar.at(hucre.satir - 1);
+    QStringList& alt = satirlar[hucre.satir];
+    if (hucre.sutun == 1 || hucre.sutun == 2)
+        alt[13] = ust.at(13);
+    if (ust.at(hucre.sutun).isEmpty())
+        return false;
+    alt[hucre.sutun] = ust.at(hucre.sutun);
+    return true;
+}
+
+void FisSatir::SatirSil(QList<QStringList>& satirlar, int satir)
+{
+    satirlar.removeAt(satir - 1);
+    satirlar.append(QStringList(FisEkrani::SutunSayisi, QString()));
+}
+
+QStringList FisSatir::HesKodListesi(const QString& klasor)
+{
+    Veritabani vt(klasor, Dosya::Genel);
+    QSqlQuery q = vt.Sorgu(QStringLiteral("Select HesapKod, MalzAdi from URUN_K Order by MalzAdi"));
+    QStringList liste;
+    while (q.next())
+        if (!q.value(0).toString().isEmpty())
+            liste << q.value(0).toString() + u' ' + q.value(1).toString().trimmed();
+    return liste;
+}
+
+QStringList FisSatir::SinifAdlari(const QString& klasor)
+{
+    Veritabani vt(klasor, Dosya::Genel);
+    return farkliDegerler(vt.Sorgu(QStringLiteral("Select MalzAdi from URUN_K ORDER BY MalzAdi")));
+}
+
+QStringList FisSatir::UniteAdlari(const QString& klasor)
+{
+    Veritabani vt(klasor, Dosya::Genel);
+    QSqlQuery q = vt.Sorgu(QStringLiteral("Select UniteKod, UniteAd from Unite_K Order by UniteAd"));
+    QStringList adlar;
+    while (q.next())
+        adlar << q.value(1).toString();
+    return adlar;
+}
+
+QStringList FisSatir::TeslimAlanlar(const QString& klasor, const QString& fcins)
+{
+    Veritabani vt(klasor, Dosya::Ayniyat);
+    return farkliDegerler(
+        vt.Sorgu(QStringLiteral("Select TeslimAlan From FIS_B where Fcins = ? ORDER BY TeslimAlan"), {fcins}));
+}
+
+QStringList FisSatir::NeredenGeldiler(const QString& klasor, const QString& fcins)
+{
+    Veritabani vt(klasor, Dosya::Ayniyat);
+    return farkliDegerler(vt.Sorgu(
+        QStringLiteral("Select NeredenGeldigi From FIS_B where Fcins = ?  Order by NeredenGeldigi"), {fcins}));
+}
+
+std::optional<FisSatir::Sinif> FisSatir::KodlaSinif(const QString& klasor, const QString& secilen)
+{
+    Veritabani vt(klasor, Dosya::Genel);
+    QSqlQuery q = vt.Sorgu(QStringLiteral("Select HesapKod, MalzAdi, KDV1,Birimi from URUN_K Where HesapKod = ? "
+                                          "ORDER BY HesapKod "),
+                           {secilen.left(13)});
+    if (!q.next())
+        return std::nullopt;
+    return Sinif{q.value(0).toString().trimmed(), q.value(1).toString().trimmed(), q.value(2).toString().trimmed(),
+                 q.value(3).toString()};
+}
+
+std::optional<FisSatir::Sinif> FisSatir::AdlaSinif(const QString& klasor, const QString& ad)
+{
+    Veritabani vt(klasor, Dosya::Genel);
+    QSqlQuery q = vt.Sorgu(QStringLiteral("Select HesapKod, MalzAdi, KDV1 from URUN_K Where MalzAdi = ?  "), {ad});
+    if (!q.next())
+        return std::nullopt;
+    return Sinif{q.value(0).toString(), q.value(1).toString(), q.value(2).toString(), QString()};
+}
+
+std::optional<QString> FisSatir::MalzAdGetir(const QString& klasor, const QString& hesapKod)
+{
+    Veritabani vt(klasor, Dosya::Genel);
+    QSqlQuery q = vt.Sorgu(QStringLiteral("Select MalzAdi, HesapKod from URUN_K where HesapKod = ? "), {hesapKod});
+    if (!q.next())
+        return std::nullopt;
+    return q.value(0).toString();
+}
+
+std::optional<QString> FisSatir::UniteKodu(const QString& klasor, const QString& uniteAd)
+{
+    Veritabani vt(klasor, Dosya::Genel);
+    QSqlQuery q = vt.Sorgu(QStringLiteral("Select UniteKod, UniteAd from Unite_K Where UniteAd = ? "), {uniteAd});
+    if (!q.next())
+        return std::nullopt;
+    return q.value(0).toString();
+}
+
+QStringList FisSatir::HareketBasliklari()
+{
+    return {QStringLiteral("MalzemeÖzellik"), QStringLiteral("BirimFiyat"), QStringLiteral("FişNo"),
+            QStringLiteral("Miktar"),         QStringLiteral("Çıkan"),      QStringLiteral("Tarih"),
+            QStringLiteral("Ünite"),          QStringLiteral("KimeVerildiği")};
+}
+
+QList<int> FisSatir::HareketGenislikleri()
+{
+    return {3400, 1220, 700, 1000, 1000, 1300, 660, 2300};
+}
+
+FisSatir::HareketListesi FisSatir::HesapHareketListe(const QString& klasor, const QString& hesapKod)
+{
+    return hareketler(klasor,
+                      QStringLiteral("Select Ozellik, BirimFiyat, FisNo, Miktar,Cikan, Tarih, Unite,KimeVerildigi "
+                                     "From FIS  Where HesapKod = ? and (FCinss IS Null or FCinss = '' ) "
+                                     "order by FisNo, Tarih "),
+                      hesapKod);
+}
+
+FisSatir::HareketListesi FisSatir::OzellikHareketListe(const QString& klasor, const QString& ozellik)
+{
+    return hareketler(klasor,
+                      QStringLiteral("Select Ozellik, BirimFiyat, FisNo, Miktar,Cikan, Tarih, Unite,KimeVerildigi "
+                                     "From FIS  Where Ozellik = ? order by FisNo, Tarih "),
+                      ozellik);
+}
+
+void FisSatir::HareketYazdir(Yazici& p, const QString& hesapKod, const QString& malzAdi, const QString& fisTarihi,
+                             const Izgara& liste, const QString& toplam)
+{
+    GridYazdir(p, hesapKod + QStringLiteral(" - ") + malzAdi + QStringLiteral("      Tarih :") + fisTarihi.mid(6, 4),
+               liste);
+    p.Print({QStringLiteral("Toplam :") + toplam});
+    p.EndDoc();
+}

@@ -67,6 +67,9 @@ QFont YaziFontu(double punto, bool kalin)
 void SayfaCiz(QPainter& ressam, const Sayfa& sayfa)
 {
     ressam.save();
+    if (!sayfa.zemin.resim.isNull())
+        ressam.drawImage(QRectF(QPointF(0, 0), sayfa.KagitBoyu() - QSizeF(2 * KenarTwip, 2 * KenarTwip)),
+                         sayfa.zemin.resim);
     ressam.setBrush(Qt::NoBrush);
     for (const Cizgi& cizgi : sayfa.zemin.cizgiler) {
         ressam.setPen(Kalem(cizgi.kalinlik));

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QImage>
 #include <QLineF>
 #include <QList>
 #include <QPageLayout>
@@ -57,6 +58,9 @@ struct Etiket
 
 struct Zemin
 {
+    // A scanned form put in place of the drawn one, stretched over the
+    // printable area.
+    QImage resim;
     QList<Cizgi> cizgiler;
     QList<Kutu> kutular;
     QList<Etiket> etiketler;

@@ -61,6 +61,14 @@ void Yazici::ZeminCiz(const Zemin& zemin)
     AcikSayfa().zemin = zemin;
 }
 
+void Yazici::PaintPicture(const Sayfa& sayfa)
+{
+    Sayfa& hedef = AcikSayfa();
+    hedef.yon = sayfa.yon;
+    hedef.zemin = sayfa.zemin;
+    hedef.yazilar += sayfa.yazilar;
+}
+
 void Yazici::NewPage()
 {
     AcikSayfa();

@@ -56,6 +56,9 @@ public:
     void Print(const QList<PrintOgesi>& ogeler = {}, SatirSonu son = YeniSatir);
     // Puts the form under the texts of the current page, starting it if needed.
     void ZeminCiz(const Zemin& zemin);
+    // Copies a page drawn beforehand (a form shown on the screen) onto the
+    // current page, as the picture of a picture box went to the printer.
+    void PaintPicture(const Sayfa& sayfa);
     // Ends the current page, an empty one if nothing was drawn on it.
     void NewPage();
     // Hands the pages to the output and starts a new document. A page left

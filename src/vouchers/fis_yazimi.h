@@ -1,0 +1,18 @@
+#pragma once
+
+#include "fis_kayit.h"
+
+// What the print screens of a voucher take from the voucher screen, as it
+// stands, unsaved changes included: the head and the grid, and the values
+// the screen shows beside them.
+struct FisYazimi
+{
+    FisEkrani fis;
+    QString IslemAd;     // the transaction name of line 1
+    QString UniteAd2;    // the unit name of the current line ("false" for none)
+    QString HarfYazma;   // the amount in words
+    QString ACIKLAMA_B;  // a remark; the voucher screen leaves it empty
+    QString Text2;       // the running quantity total
+    QString Text3;       // the running amount total
+    QString KDVTOP;      // the VAT total
+};

@@ -16,3 +16,16 @@ struct FisYazimi
     QString Text3;       // the running amount total
     QString KDVTOP;      // the VAT total
 };
+
+namespace FisYazimiKurali {
+
+// The kind mark of the printed forms: "Ç" for an issue, "G" for an entry,
+// "GÇ" for an entry of which a line among rows 1 to 25 also hands out.
+QString CinsIsareti(const QString& cins, const FisEkrani& fis);
+
+// The register number printed for line `satir` of the grid: the first 21
+// characters of the code's digits, the year of the date and the voucher
+// number joined, then `son` (the line number, or the slip's own counter).
+QString SicilYazisi(const FisEkrani& fis, int satir, int son);
+
+}

@@ -1,0 +1,23 @@
+#include "fis_yazimi.h"
+
+#include "bicim.h"
+#include "kayit.h"
+
+QString FisYazimiKurali::CinsIsareti(const QString& cins, const FisEkrani& fis)
+{
+    if (cins == QLatin1String("C"))
+        return QStringLiteral("Ç");
+    if (cins != QLatin1String("G"))
+        return QString();
+    for (int i = 1; i <= 25; ++i)
+        if (Val(fis.Hucre(i, 10)) > 0)
+            return QStringLiteral("GÇ");
+    return QStringLiteral("G");
+}
+
+QString FisYazimiKurali::SicilYazisi(const FisEkrani& fis, int satir, int son)
+{
+    const QString kok = SayiMetni(Val(fis.Hucre(satir, 1).left(13))) + fis.Tarih.mid(6, 4)
+                        + SayiMetni(Val(fis.FisNo));
+    return kok.left(21) + QString::number(son);
+}

@@ -56,7 +56,7 @@ const DugmeTanimi dugmeler[] = {
 };
 
 // The menu bar: entries of the top level and of each submenu, in order.
-// Hidden entries of the original are not built.
+// Entries kept hidden, which nothing shows, are not built.
 struct GirisTanimi
 {
     const char* ad;

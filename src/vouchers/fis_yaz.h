@@ -16,4 +16,10 @@ public:
 
     QLineEdit* KDVTut;
     QPushButton* CmdKDV;
+
+private:
+    // The VAT as typed and the grand total onto the page, then to the printer.
+    void KdvYazdir();
+
+    const FisYazimi m_yazim;
 };

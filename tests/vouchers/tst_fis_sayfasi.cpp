@@ -1,0 +1,397 @@
+#include "cikti.h"
+#include "fis_sayfasi.h"
+#include "fis_yaz.h"
+#include "form_cizimi.h"
+#include "hata.h"
+#include "modal_yanit.h"
+#include "sabit_kayit.h"
+#include "veri_klasoru.h"
+
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+SabitSatiri sabit()
+{
+    return {{u"ilAdi"_s, u"ANKARA / ÇANKAYA"_s},
+            {u"ilKod"_s, u"06.01"_s},
+            {u"KurumAdi"_s, u"Atatürk Anadolu Lisesi Müdürlüğü"_s},
+            {u"KurumKod"_s, u"13.01.00.02"_s},
+            {u"MuhasebeBirimiAdi"_s, u"Çankaya Malmüdürlüğü"_s},
+            {u"MuhasebeBirimiKod"_s, u"06.107"_s},
+            {u"AyniyatMemuru2"_s, u"Hüseyin Çağlayan"_s},
+            {u"AyniyatMemuru1"_s, u"Taşınır Kontrol Yetkilisi"_s},
+            {u"AmbarMemurAd"_s, u"Gülşen Doğruyol"_s},
+            {u"AmbarMemur"_s, u"Taşınır Kayıt Yetkilisi"_s}};
+}
+
+QStringList satir(const QString& kod, const QString& ad, const QString& miktar, const QString& fiyat,
+                  const QString& cikan = QString())
+{
+    QStringList s(FisEkrani::SutunSayisi);
+    s[1] = kod;
+    s[3] = ad;
+    s[4] = u"ADET"_s;
+    s[5] = miktar;
+    s[6] = fiyat;
+    s[7] = u"12.03.2026"_s;
+    s[10] = cikan;
+    s[11] = u"Mehmet Öztürk"_s;
+    return s;
+}
+
+FisYazimi yazim(const QString& cins, const QList<QStringList>& satirlar)
+{
+    FisYazimi y;
+    FisEkrani& f = y.fis;
+    f.FisNo = u"7"_s;
+    f.Tarih = u"15.03.2026"_s;
+    f.FCins = f.Hangi = cins;
+    f.KabulTarih = u"14.03.2026"_s;
+    f.KabulSayi = u"2026/37"_s;
+    f.BelgeSayi = u"Fatura 4471"_s;
+    f.NeredenGeldigi = u"Yıldız Kırtasiye Ltd. Şti. Ankara"_s;
+    f.TeslimAlan = u"Ayşe Yılmaz"_s;
+    f.Satirlar = satirlar;
+    y.IslemAd = cins == u"G" ? u"DevirYoluylaAlma"_s : u"Devretme/Bağışlama"_s;
+    y.UniteAd2 = u"Müdür Yardımcılığı Odası"_s;
+    y.HarfYazma = u"BinİkiYüzOtuzDört Lira Elli kuruş"_s;
+    y.Text2 = u"12,5"_s;
+    y.Text3 = u"1234,5"_s;
+    y.KDVTOP = u"222,21"_s;
+    return y;
+}
+
+// As long as real values come, and as wide.
+FisYazimi dolu(const QString& cins, int sayi)
+{
+    QList<QStringList> satirlar;
+    for (int i = 1; i <= sayi; ++i)
+        satirlar.append(satir(i % 2 ? u"255 01 02 001"_s : u"150 01 01 001"_s, u"Masaüstü Bilgisayar İ7 16 GB"_s,
+                              u"1250"_s, u"12345,5"_s, cins == u"C" ? u"1250"_s : QString()));
+    FisYazimi y = yazim(cins, satirlar);
+    y.fis.FisNo = u"1234"_s;
+    y.Text3 = u"154318750"_s;
+    y.KDVTOP = u"27777375"_s;
+    return y;
+}
+
+QStringList yazilari(const QList<SayfaYazisi>& yazilar)
+{
+    QStringList sonuc;
+    for (const SayfaYazisi& y : yazilar)
+        sonuc.append(u"%1,%2 %3 %4%5"_s.arg(y.x).arg(y.y).arg(y.punto).arg(y.kalin ? u"b "_s : u""_s, y.metin));
+    return sonuc;
+}
+
+QStringList yazilari(const Sayfa& s)
+{
+    return yazilari(s.yazilar);
+}
+
+}
+
+class TstFisSayfasi : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_tmp;
+    QPointer<FisYaz> m_ekran;
+    BellekCikti m_cikti;
+
+    QString klasor() const { return m_tmp->path(); }
+
+    void ac(const FisYazimi& y)
+    {
+        VeriKlasoru::Hazirla(klasor());
+        SabitKayit::Kaydet(klasor(), sabit());
+        m_ekran = new FisYaz({u"2026"_s, u"3"_s, u"Okul"_s, klasor()}, y);
+        m_ekran->CiktiSec(&m_cikti);
+        m_ekran->show();
+        etkinlestir();
+    }
+    // The offscreen platform does not give the screen back its activation
+    // when a message box closes.
+    void etkinlestir()
+    {
+        m_ekran->activateWindow();
+        if (!QTest::qWaitForWindowActive(m_ekran))
+            qFatal("the screen did not become active");
+    }
+
+private slots:
+    void init()
+    {
+        m_tmp = std::make_unique<QTemporaryDir>();
+        m_cikti.belgeler.clear();
+    }
+    void cleanup() { delete m_ekran; }
+
+    void bas_data()
+    {
+        QTest::addColumn<double>("x");
+        QTest::addColumn<double>("y");
+        QTest::addColumn<QString>("beklenen");
+        QTest::addColumn<double>("punto");
+        QTest::newRow("il") << 2200. << 640. << u"ANKARA / ÇANKAYA"_s << 10.;
+        QTest::newRow("il code") << 8000. << 640. << u"06.01"_s << 10.;
+        QTest::newRow("institution") << 2200. << 940. << u"Atatürk Anadolu Lisesi Müdürlüğü"_s << 10.;
+        QTest::newRow("institution code") << 8000. << 940. << u"13.01.00.02"_s << 10.;
+        QTest::newRow("accounting unit") << 2200. << 1470. << u"Çankaya Malmüdürlüğü"_s << 10.;
+        QTest::newRow("accounting code") << 8000. << 1470. << u"06.107"_s << 10.;
+        QTest::newRow("mark and number") << 8800. << 320. << u"G-7"_s << 14.;
+        QTest::newRow("date") << 6700. << 370. << u"15.03.2026"_s << 11.;
+        QTest::newRow("acceptance date") << 5600. << 1730. << u"14.03.2026"_s << 11.;
+        QTest::newRow("acceptance number") << 8400. << 1730. << u"2026/37"_s << 11.;
+        QTest::newRow("document date: row 1") << 5600. << 1950. << u"12.03.2026"_s << 11.;
+        QTest::newRow("document number") << 8400. << 1950. << u"Fatura 4471"_s << 11.;
+        QTest::newRow("transaction") << 150. << 2800. << u"DevirYoluylaAlma"_s << 11.;
+        QTest::newRow("supplier, 24 characters") << 2200. << 2800. << u"Yıldız Kırtasiye Ltd. Şt"_s << 11.;
+        QTest::newRow("recipient of row 1") << 5300. << 2800. << u"Mehmet Öztürk"_s << 11.;
+        QTest::newRow("unit") << 8000. << 2800. << u"Müdür Yardımcılığı Odası"_s << 11.;
+        QTest::newRow("amount in words") << 300. << 7930. << u"BinİkiYüzOtuzDört Lira Elli kuruş"_s << 9.;
+        QTest::newRow("handed by: name") << 1800. << 12540. << u"Hüseyin Çağlayan"_s << 9.;
+        QTest::newRow("handed by: title") << 1800. << 12760. << u"Taşınır Kontrol Yetkilisi"_s << 9.;
+        QTest::newRow("received by: name") << 7050. << 12540. << u"Gülşen Doğruyol"_s << 9.;
+        QTest::newRow("received by: title") << 7050. << 12760. << u"Taşınır Kayıt Yetkilisi"_s << 9.;
+        QTest::newRow("control officer: name") << 1800. << 12980. << u"Gülşen Doğruyol"_s << 9.;
+        QTest::newRow("control officer: title") << 1800. << 13200. << u"Taşınır Kayıt Yetkilisi"_s << 9.;
+        QTest::newRow("receiver") << 7800. << 12980. << u"Ayşe Yılmaz"_s << 9.;
+    }
+    void bas()
+    {
+        QFETCH(double, x);
+        QFETCH(double, y);
+        QFETCH(QString, beklenen);
+        QFETCH(double, punto);
+        const Sayfa s = FisSayfasi(yazim(u"G"_s, {satir(u"150 01 01 001"_s, u"Kağıt"_s, u"4"_s, u"12.5"_s)}), sabit());
+        const SayfaYazisi* yazi = s.YaziNerede(x, y);
+        QVERIFY(yazi);
+        QCOMPARE(yazi->metin, beklenen);
+        QCOMPARE(yazi->punto, punto);
+        QVERIFY(!yazi->kalin);
+    }
+
+    // The kind decides the mark, where the quantity is read and whether the
+    // supplier is printed.
+    void cins_data()
+    {
+        QTest::addColumn<QString>("cins");
+        QTest::addColumn<QString>("cikan");
+        QTest::addColumn<QString>("isaret");
+        QTest::addColumn<QString>("miktar");
+        QTest::addColumn<QString>("tutar");
+        QTest::addColumn<QString>("nereden");
+        const QString pay = QString(20, u' ');
+        QTest::newRow("entry") << u"G"_s << u""_s << u"G-7"_s << u"4"_s << pay + u"50,00"_s
+                               << u"Yıldız Kırtasiye Ltd. Şt"_s;
+        QTest::newRow("entry that hands out") << u"G"_s << u"1"_s << u"GÇ-7"_s << u"4"_s << pay + u"50,00"_s
+                                              << u"Yıldız Kırtasiye Ltd. Şt"_s;
+        QTest::newRow("issue") << u"C"_s << u"3"_s << u"Ç-7"_s << u"3"_s << pay + u"37,50"_s << QString();
+    }
+    void cins()
+    {
+        QFETCH(QString, cins);
+        QFETCH(QString, cikan);
+        QFETCH(QString, isaret);
+        QFETCH(QString, miktar);
+        QFETCH(QString, tutar);
+        QFETCH(QString, nereden);
+        // The hand-out is on the second line: the mark looks at every line.
+        const Sayfa s = FisSayfasi(yazim(cins, {satir(u"150 01 01 001"_s, u"Kağıt"_s, u"4"_s, u"12.5"_s, cikan),
+                                                satir(u"150 01 01 001"_s, u"Kağıt"_s, u"4"_s, u"12.5"_s, cikan)}),
+                                   sabit());
+        QCOMPARE(s.MetinNerede(8800, 320), isaret);
+        QCOMPARE(s.MetinNerede(7260, 4700), miktar);
+        QCOMPARE(s.MetinNerede(8540, 4700), u"12,5"_s);
+        QCOMPARE(s.MetinNerede(9250, 4700), tutar);
+        QCOMPARE(s.MetinNerede(2200, 2800), nereden);
+    }
+
+    // Rows without a code keep their place; the number printed is the row's.
+    void satirlar()
+    {
+        const Sayfa s = FisSayfasi(
+            yazim(u"G"_s, {satir(u"150 01 01 001"_s, u"A4 Fotokopi Kağıdı 80 gr Beyaz"_s, u"10"_s, u"45"_s),
+                           satir(QString(), u"silinmiş satır"_s, u"1"_s, u"1"_s),
+                           satir(u"255 01 02 001 9"_s, u"Masaüstü Bilgisayar"_s, u"2"_s, u"18250,5"_s)}),
+            sabit());
+        QStringList govde;
+        for (const SayfaYazisi& y : s.yazilar)
+            if (y.y >= 4460 && y.y < 5180)
+                govde.append(u"%1,%2 %3"_s.arg(y.x).arg(y.y).arg(y.metin));
+        const QString pay = QString(18, u' ');
+        QCOMPARE(govde, QStringList({u"1,4460 1"_s, u"1,4940 3"_s,
+                                     u"350,4460 150 01 01 001"_s, u"350,4940 255 01 02 001 "_s,
+                                     u"1600,4940 2550102001202673"_s,
+                                     u"3660,4460 A4 Fotokopi Kağıdı 80 gr Be"_s, u"3660,4940 Masaüstü Bilgisayar"_s,
+                                     u"6620,4460 ADET"_s, u"6620,4940 ADET"_s,
+                                     u"7260,4460 10"_s, u"7260,4940 2"_s,
+                                     u"8540,4460 45"_s, u"8540,4940 18250"_s,
+                                     u"9250,4460 "_s + pay + u"450,00"_s,
+                                     u"9250,4940 "_s + QString(12, u' ') + u"36.500,00"_s}));
+    }
+
+    void toplam_data()
+    {
+        QTest::addColumn<int>("son");
+        QTest::addColumn<double>("y");
+        QTest::newRow("no lines") << 0 << 4460.;
+        QTest::newRow("last line 3") << 3 << 5180.;
+        QTest::newRow("all 25 lines") << 25 << 10460.;
+    }
+    void toplam()
+    {
+        QFETCH(int, son);
+        QFETCH(double, y);
+        QList<QStringList> satirlar(son, satir(QString(), QString(), u"1"_s, u"1"_s));
+        if (son > 0)
+            satirlar.last() = satir(u"150 01 01 001"_s, u"Kağıt"_s, u"1"_s, u"1"_s);
+        const Sayfa s = FisSayfasi(yazim(u"G"_s, satirlar), sabit());
+        QCOMPARE(s.MetinNerede(8650, y), u"    Toplam :  "_s + QString(9, u' ') + u"1234,5"_s);
+        const QString miktar = u" "_s + QString(11, u' ') + u"12,5"_s;
+        QCOMPARE(yazilari(s).filter(u",11410 "_s),
+                 QStringList({u"2140,11410 10 b Miktar"_s, u"2470,11410 10 b "_s + miktar,
+                              u"7150,11410 10 b Miktar"_s, u"7480,11410 10 b "_s + miktar}));
+    }
+
+    // What an empty entry of the unit names reads as prints nothing.
+    void uniteYok()
+    {
+        FisYazimi y = yazim(u"G"_s, {});
+        y.UniteAd2 = u"false"_s;
+        QVERIFY(!FisSayfasi(y, sabit()).YaziNerede(8000, 2800));
+    }
+
+    void kdv_data()
+    {
+        QTest::addColumn<QString>("kdv");
+        QTest::addColumn<QString>("kdvSatiri");
+        QTest::addColumn<QString>("genelToplam");
+        QTest::newRow("as computed") << u"222,21"_s << u"222,21"_s << u"1.456,71"_s;
+        QTest::newRow("overtyped") << u"100"_s << u"100,00"_s << u"1.334,50"_s;
+        QTest::newRow("half to even") << u"0,125"_s << u"0,12"_s << u"1.234,63"_s;
+        // The VAT line reads the box as a Turkish number, the grand total
+        // through Val.
+        QTest::newRow("point typed") << u"36.9"_s << u"369,00"_s << u"1.271,40"_s;
+    }
+    void kdv()
+    {
+        QFETCH(QString, kdv);
+        QFETCH(QString, kdvSatiri);
+        QFETCH(QString, genelToplam);
+        const FisYazimi y = yazim(u"G"_s, {satir(u"150 01 01 001"_s, u"Kağıt"_s, u"4"_s, u"12.5"_s)});
+        Sayfa s = FisSayfasi(y, sabit());
+        const qsizetype once = s.yazilar.size();
+        // A second press replaces what the first one put there.
+        FisKdvYaz(s, y, u"999"_s);
+        FisKdvYaz(s, y, kdv);
+        QCOMPARE(s.yazilar.size(), once + 2);
+        const auto hizali = [](const QString& m) { return QString(15 - m.size(), u' ') + m; };
+        QCOMPARE(s.MetinNerede(8650, 4940), u"    KDV. ...  : "_s + hizali(kdvSatiri));
+        const SayfaYazisi* genel = s.YaziNerede(8450, 5380);
+        QVERIFY(genel);
+        QCOMPARE(genel->metin, u"G.Toplam : "_s + hizali(genelToplam));
+        QCOMPARE(genel->punto, 10.);
+        QVERIFY(genel->kalin);
+    }
+
+    void kdvSayiDegil()
+    {
+        const FisYazimi y = yazim(u"G"_s, {});
+        Sayfa s = FisSayfasi(y, sabit());
+        const QStringList once = yazilari(s);
+        QVERIFY_THROWS_EXCEPTION(Hata, FisKdvYaz(s, y, u"yok"_s));
+        QCOMPARE(yazilari(s), once);
+    }
+
+    // Every value sits inside a box of the form, clear of its rules, and no
+    // two values run into each other; the amount in words, whose place lies
+    // across lines 15 and 16, meets them when the voucher has that many.
+    void yerlesim_data()
+    {
+        QTest::addColumn<QString>("cins");
+        QTest::addColumn<int>("sayi");
+        QTest::addColumn<bool>("harfCakisir");
+        QTest::newRow("entry, 6 lines") << u"G"_s << 6 << false;
+        QTest::newRow("issue, 14 lines") << u"C"_s << 14 << false;
+        QTest::newRow("entry, 23 lines") << u"G"_s << 23 << true;
+        QTest::newRow("issue, 25 lines") << u"C"_s << 25 << true;
+        QTest::newRow("no lines") << u"G"_s << 0 << false;
+    }
+    void yerlesim()
+    {
+        QFETCH(QString, cins);
+        QFETCH(int, sayi);
+        QFETCH(bool, harfCakisir);
+        const FisYazimi y = dolu(cins, sayi);
+        SabitSatiri s = sabit();
+        s[u"AyniyatMemuru1"_s] = u"Taşınır Kayıt ve Kontrol Yetkilisi"_s;
+        Sayfa sayfa = FisSayfasi(y, s);
+        FisKdvYaz(sayfa, y, y.KDVTOP);
+        QCOMPARE(yazilari(FormCizimi::YerindeOlmayanlar(sayfa)), QStringList());
+        const auto cakisanlar = FormCizimi::Cakisanlar(sayfa);
+        for (const auto& [a, b] : cakisanlar) {
+            const SayfaYazisi& satir = a.y == 7930 ? b : a;
+            QVERIFY2((a.y == 7930 || b.y == 7930) && (satir.y == 7820 || satir.y == 8060),
+                     qPrintable(a.metin + u" / "_s + b.metin));
+        }
+        QCOMPARE(!cakisanlar.isEmpty(), harfCakisir);
+    }
+
+    void ekran()
+    {
+        const FisYazimi y = yazim(u"G"_s, {satir(u"255 01 01 001"_s, u"Masa"_s, u"2"_s, u"100"_s)});
+        ac(y);
+        QCOMPARE(m_ekran->windowTitle(), u"Fiş Yazdırma Önİzleme"_s);
+        QCOMPARE(m_ekran->KDVTut->text(), u"222,21"_s);
+        QCOMPARE(yazilari(m_ekran->Goruntu()), yazilari(FisSayfasi(y, sabit())));
+
+        QTest::keyClick(m_ekran, Qt::Key_F2);
+        QCOMPARE(m_cikti.belgeler.size(), 1);
+        QCOMPARE(m_cikti.belgeler[0].size(), 1);
+        QCOMPARE(yazilari(m_cikti.belgeler[0][0]), yazilari(m_ekran->Goruntu()));
+        QCOMPARE(m_cikti.belgeler[0][0].zemin.kutular.size(), m_ekran->Goruntu().zemin.kutular.size());
+
+        m_ekran->KDVTut->setText(u"40"_s);
+        m_ekran->CmdKDV->click();
+        QCOMPARE(m_ekran->Goruntu().MetinNerede(8450, 5380), u"G.Toplam : "_s + QString(7, u' ') + u"1.274,50"_s);
+        QCOMPARE(m_cikti.belgeler.size(), 2);
+        QCOMPARE(yazilari(m_cikti.belgeler[1][0]), yazilari(m_ekran->Goruntu()));
+
+        m_ekran->KDVTut->setText(u"kırk"_s);
+        ModalYanit yanit(u"Tamam"_s);
+        m_ekran->CmdKDV->click();
+        QVERIFY(yanit.Goruldu());
+        QCOMPARE(m_cikti.belgeler.size(), 2);
+
+        etkinlestir();
+        QTest::keyClick(m_ekran, Qt::Key_Escape);
+        QVERIFY(!m_ekran->isVisible());
+    }
+
+    void formResmi()
+    {
+        ac(yazim(u"G"_s, {}));
+        QImage resim(40, 60, QImage::Format_RGB32);
+        resim.fill(Qt::gray);
+        QVERIFY(resim.save(VeriKlasoru::DosyaYolu(klasor(), u"FisY1.BMP"_s), "BMP"));
+        const QStringList yazilar = yazilari(m_ekran->Goruntu());
+        m_ekran->Command2->click();
+        const Sayfa& s = m_ekran->Goruntu();
+        QCOMPARE(s.zemin.resim.size(), resim.size());
+        QVERIFY(s.zemin.kutular.isEmpty());
+        QCOMPARE(yazilari(s), yazilar);
+    }
+};
+
+QTEST_MAIN(TstFisSayfasi)
+#include "tst_fis_sayfasi.moc"

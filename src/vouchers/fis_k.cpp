@@ -2,10 +2,16 @@
 
 #include "bicim.h"
 #include "fis_izgara.h"
+#include "fis_toplam.h"
+#include "fis_yaz.h"
+#include "istek_yaz.h"
 #include "kayit.h"
 #include "liste_izgarasi.h"
 #include "saat.h"
 #include "sinif_tani.h"
+#include "tek_deger.h"
+#include "veritabani.h"
+#include "zimmet_yaz.h"
 
 #include <QApplication>
 #include <QBoxLayout>
@@ -17,6 +23,9 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QToolButton>
+
+#include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -175,17 +184,21 @@ FIS_K::FIS_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
         k->setReadOnly(true);
         k->setAlignment(Qt::AlignRight);
         k->setMaximumWidth(fontMetrics().averageCharWidth() * 12);
-        k->hide();
         alt->addWidget(k);
     };
     toplamKutusu(Gelen, QStringLiteral("Gelen"));
     toplamKutusu(Cikan, QStringLiteral("Cikan"));
     toplamKutusu(Kalan, QStringLiteral("Kalan"));
+    for (QLineEdit* k : {Gelen, Cikan, Kalan})
+        k->hide();
     TopEleGecen = new QLabel(this);
     TopEleGecen->setObjectName(QStringLiteral("TopEleGecen"));
     TopEleGecen->hide();
     alt->addWidget(TopEleGecen);
     alt->addStretch();
+    toplamKutusu(Text1, QStringLiteral("Text1"));
+    toplamKutusu(Text2, QStringLiteral("Text2"));
+    toplamKutusu(Text3, QStringLiteral("Text3"));
 
     auto* yardim = new QGridLayout;
     ana->addLayout(yardim);
@@ -248,6 +261,18 @@ FIS_K::FIS_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
     L3->Basliklar(FisSatir::HareketBasliklari());
     L3->setToolTip(QStringLiteral("Liste dışında herhangibir yere tıklarsanız, Hareket Listesi Kaybolur."));
     L3->hide();
+    lblMahsup = metinKutusu(QStringLiteral("lblMahsup"));
+    lblMahsup->setText(QStringLiteral(" KDV Oran :"));
+    lblMahsup->setReadOnly(true);
+    lblMahsup->setFocusPolicy(Qt::NoFocus);
+    KDVOran = metinKutusu(QStringLiteral("KDVOran"));
+    KDVOran->setToolTip(QStringLiteral("KDV Oranını Değiştirebilirsiniz. Enter ile işlemi Bitiriniz."));
+    Label10 = new QLabel(QStringLiteral("KDV yazınız ve Enter 'a Basınız. KDV Oranını Değiştirebilirsiniz."), this);
+    Label10->setObjectName(QStringLiteral("Label10"));
+    Label10->setAutoFillBackground(true);
+    Label10->setFrameShape(QFrame::Box);
+    KdvOranGizle();
+    CmdKDVEkle->setToolTip(QStringLiteral("Birim Fiyatı KDV li Hale getirir."));
 
     const QList<QWidget*> sekmeSirasi{FisNo, Tarih, KabulTarih, KabulSayi, TeslimAlan, BelgeTur, BelgeSayi,
                                       NeredenGeldigi, T};
@@ -292,8 +317,10 @@ FIS_K::FIS_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
             Bildir(QStringLiteral("Bir Fiş No girmek zorundasınız.."));
             return;
         }
-        if (!Getir())
+        if (!Getir()) {
             SatirlariGetir();
+            AraToplam();
+        }
     });
     connect(cd2, &QPushButton::clicked, this, &FIS_K::Kaydet);
     connect(cd5, &QPushButton::clicked, this, &FIS_K::Sil);
@@ -305,23 +332,23 @@ FIS_K::FIS_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
         if (T->Col() != 0 && T->Col() != 2)
             HazirDegil();
     });
-    for (QPushButton* d : {Cd4, CmdKDVEkle, Cyaz2, Liste, Zimmet})
-        connect(d, &QPushButton::clicked, this, &FIS_K::HazirDegil);
+    connect(Cd4, &QPushButton::clicked, this, &FIS_K::FisYazdir);
+    connect(CmdKDVEkle, &QPushButton::clicked, this, &FIS_K::kdvORAN2);
+    connect(Cyaz2, &QPushButton::clicked, this, &FIS_K::IstekYazdir);
+    connect(Zimmet, &QPushButton::clicked, this, &FIS_K::ZimmetYazdir);
+    connect(Liste, &QPushButton::clicked, this, &FIS_K::HazirDegil);
     connect(cd8, &QPushButton::clicked, this, &QWidget::close);
 
     TusTanimla(QKeySequence(Qt::Key_F1), [this] {
         if (!FisNo->text().trimmed().isEmpty())
             Kaydet();
     });
-    TusTanimla(QKeySequence(Qt::Key_F2), [this] { HazirDegil(); });
+    TusTanimla(QKeySequence(Qt::Key_F2), [this] { FisYazdir(); });
     TusTanimla(QKeySequence(Qt::Key_F3), [this] { Yeni(); });
     TusTanimla(QKeySequence(Qt::Key_F5), [this] { Sil(); });
     TusTanimla(QKeySequence(Qt::Key_F6), [this] { SatirSil(); });
-    TusTanimla(QKeySequence(Qt::CTRL | Qt::Key_F6), [this] {
-        if (T->Col() == 6)
-            HazirDegil();
-    });
-    TusTanimla(QKeySequence(Qt::Key_F7), [this] { HazirDegil(); });
+    TusTanimla(QKeySequence(Qt::CTRL | Qt::Key_F6), [this] { kdvORAN2(); });
+    TusTanimla(QKeySequence(Qt::Key_F7), [this] { IstekYazdir(); });
     // F8 typed in the line editor deletes the row as well.
     TusTanimla(QKeySequence(Qt::Key_F8), [this] {
         if (QApplication::focusWidget() == TE1)
@@ -448,6 +475,108 @@ void FIS_K::HazirDegil()
     Bildir(hazirDegil);
 }
 
+void FIS_K::AraToplam()
+{
+    const FisToplam::AraToplamlar toplam = FisToplam::AraToplam(Ekran());
+    Text1->setText(toplam.Text1);
+    Text2->setText(toplam.Text2);
+    Text3->setText(toplam.Text3);
+}
+
+void FIS_K::KdvToplam()
+{
+    FisEkrani fis = Ekran();
+    KDVTOP = SayiMetni(FisToplam::KdvToplam(fis));
+    T->HucreleriYaz(fis.Satirlar);
+    Yaz2();
+}
+
+FisYazimi FIS_K::Yazim() const
+{
+    FisYazimi yazim;
+    yazim.fis = Ekran();
+    yazim.IslemAd = m_islemAdlari.value(0);
+    yazim.UniteAd2 = FisToplam::YazimUniteAdi(UniteAd2);
+    yazim.Text2 = Text2->text();
+    yazim.Text3 = Text3->text();
+    yazim.KDVTOP = KDVTOP;
+    return yazim;
+}
+
+void FIS_K::YazimEkraniAc(const std::function<SayfaEkrani*()>& yeni)
+{
+    SayfaEkrani* ekran = nullptr;
+    if (!Dene([&] { ekran = yeni(); }))
+        return;
+    ekran->show();
+    ekran->raise();
+    ekran->activateWindow();
+}
+
+void FIS_K::FisYazdir()
+{
+    KdvToplam();
+    AraToplam();
+    FisYazimi yazim = Yazim();
+    QString hata;
+    yazim.HarfYazma = FisToplam::HarfYazma(Text3->text(), hata);
+    // The voucher prints all the same, without the words.
+    if (!hata.isEmpty())
+        Bildir(hata, QString(), QMessageBox::Warning);
+    YazimEkraniAc([&] { return new FisYaz(Baglam(), yazim, this); });
+}
+
+void FIS_K::ZimmetYazdir()
+{
+    UniteAd2 = m_uniteAdlari.value(0);
+    KdvToplam();
+    YazimEkraniAc([this] { return new ZimmetYaz(Baglam(), Yazim(), this); });
+}
+
+void FIS_K::IstekYazdir()
+{
+    YazimEkraniAc([this] { return new IstekYaz(Baglam(), Yazim(), this); });
+}
+
+void FIS_K::kdvORAN2()
+{
+    if (T->Col() != 6)
+        return;
+    KDVOran->setText(Hucre(13).trimmed());
+    // The box stands left of the price cell, its hint under it.
+    const QRect alan = T->HucreAlani();
+    const QPoint hucre = T->viewport()->mapTo(this, alan.topLeft());
+    const int sol = std::max(0, hucre.x() - T->TwipPiksel(2950));
+    lblMahsup->setGeometry(sol, hucre.y(), T->TwipPiksel(1700), alan.height());
+    KDVOran->setGeometry(sol + lblMahsup->width(), hucre.y(), T->TwipPiksel(900),
+                         alan.height() - T->TwipPiksel(100));
+    Label10->adjustSize();
+    Label10->move(sol, hucre.y() + alan.height());
+    for (QWidget* w : std::initializer_list<QWidget*>{lblMahsup, KDVOran, Label10}) {
+        w->show();
+        w->raise();
+    }
+    KDVOran->setFocus();
+    MetinSec(KDVOran);
+}
+
+void FIS_K::KdvOranEnter()
+{
+    const QString oran = KDVOran->text();
+    if (const std::optional<double> fiyat = FisToplam::KdvEkle(Hucre(6), oran))
+        HucreYaz(6, SayiMetni(*fiyat));
+    HucreYaz(13, oran);
+    TE1->setText(Hucre(6));
+    T->setFocus();
+    KdvOranGizle();
+}
+
+void FIS_K::KdvOranGizle()
+{
+    for (QWidget* w : std::initializer_list<QWidget*>{lblMahsup, KDVOran, Label10})
+        w->hide();
+}
+
 void FIS_K::Kaydet()
 {
     const QString onceki = DurumSatiri()->text();
@@ -498,11 +627,13 @@ bool FIS_K::Getir()
         return false;
     if (!var) {
         Temizle();
+        AraToplam();
         return false;
     }
     BasYaz(fis);
     T->HucreSec(1, T->Col());
     SatirlariGetir();
+    AraToplam();
     return true;
 }
 
@@ -597,8 +728,10 @@ void FIS_K::Adim(int fark, bool satirlarda)
     if (fark < 0 && no <= 1)
         return;
     FisNo->setText(SayiMetni(no + fark));
-    if (!Getir() && satirlarda)
+    if (!Getir() && satirlarda) {
         SatirlariGetir();
+        AraToplam();
+    }
 }
 
 QString FIS_K::Hucre(int sutun) const
@@ -620,6 +753,15 @@ void FIS_K::HucreDegisti(int satir, int sutun)
     Label15->setText(FisSatir::Ipucu(sutun));
     if (sutun == 4 && Hucre(4).isEmpty())
         HucreYaz(4, QStringLiteral("ADET"));
+    if (sutun == 5 || sutun == 6)
+        AraToplam();
+    const QString uniteKod = Hucre(FisSatir::UniteSutunu);
+    if (sutun >= FisSatir::TarihSutunu && sutun <= FisSatir::IslemSutunu && Val(uniteKod) != 0)
+        Dene([&] {
+            Veritabani genel(Baglam().Klasor, Dosya::Genel);
+            UniteAd2 = AlanGetir(genel, QStringLiteral("Unite_K"), QStringLiteral("UniteAd"),
+                                 QStringLiteral(" where UniteKod = ? "), {uniteKod});
+        });
     Yaz2();
 }
 
@@ -736,6 +878,10 @@ bool FIS_K::eventFilter(QObject* nesne, QEvent* olay)
             return IzgaraTusu(tus);
         if (nesne == TE1)
             return TE1Tusu(tus);
+        if (nesne == KDVOran && enterMi(tus)) {
+            KdvOranEnter();
+            return true;
+        }
         if (nesne == HesKod || nesne == Detay3 || nesne == UniteAd || nesne == IslemTur || nesne == TDate)
             return EditorTusu(static_cast<QWidget*>(nesne), tus);
         if (nesne == Tarih || nesne == KabulTarih || nesne == KabulSayi || nesne == TeslimAlan || nesne == BelgeTur
@@ -757,10 +903,16 @@ bool FIS_K::eventFilter(QObject* nesne, QEvent* olay)
             Dene([this] { listeDoldur(UniteAd, FisSatir::UniteAdlari(Baglam().Klasor)); });
         break;
     }
-    case QEvent::FocusOut:
-        if (nesne == L3 && static_cast<QFocusEvent*>(olay)->reason() == Qt::MouseFocusReason)
+    case QEvent::FocusOut: {
+        const Qt::FocusReason neden = static_cast<QFocusEvent*>(olay)->reason();
+        if (nesne == L3 && neden == Qt::MouseFocusReason)
             L3Kapat();
+        // Leaving the rate box drops it unapplied; a message box or a menu
+        // over it does not.
+        else if (nesne == KDVOran && neden != Qt::ActiveWindowFocusReason && neden != Qt::PopupFocusReason)
+            KdvOranGizle();
         break;
+    }
     case QEvent::Move:
     case QEvent::Resize:
     case QEvent::Show:
@@ -782,6 +934,9 @@ void FIS_K::EscTusu(QObject* nesne)
     } else if (nesne == L3) {
         L3Kapat();
         T->setFocus();
+    } else if (nesne == KDVOran) {
+        T->setFocus();
+        KdvOranGizle();
     } else {
         FisNo->setFocus();
     }
@@ -1026,6 +1181,7 @@ void FIS_K::UniteAdSecildi(int sira)
     while (m_uniteAdlari.size() < T->Row())
         m_uniteAdlari << QString();
     m_uniteAdlari[T->Row() - 1] = ad;
+    UniteAd2 = ad;
     Label20->setText(ad);
 }
 

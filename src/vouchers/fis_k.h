@@ -18,8 +18,10 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 class QToolButton;
+class SayfaEkrani;
 class SinifTani;
 class TarihSecici;
+struct FisYazimi;
 
 // "Fiş Giriş-Düzeltme": the voucher typed from the keyboard, a head of boxes
 // over a grid of lines. The grid never edits: a box, a date editor or a
@@ -63,6 +65,22 @@ private:
     // shows the given text (if any) and the error is shown.
     bool Dene(const std::function<void()>& is, const QString& basarisiz = QString());
     void HazirDegil();
+
+    // The running totals under the grid.
+    void AraToplam();
+    // The VAT total; empty rates of counted lines become 18 in the grid.
+    void KdvToplam();
+    // What the print screens take from the screen as it stands.
+    FisYazimi Yazim() const;
+    void YazimEkraniAc(const std::function<SayfaEkrani*()>& yeni);
+    void FisYazdir();
+    void ZimmetYazdir();
+    void IstekYazdir();
+
+    // The rate box beside the price cell, which folds the VAT into the price.
+    void kdvORAN2();
+    void KdvOranEnter();
+    void KdvOranGizle();
 
     void Etkinlesti();
     void GridHazirla();
@@ -115,6 +133,9 @@ private:
     QStringList m_sinifAdlari;
     QStringList m_islemAdlari;
     QStringList m_uniteAdlari;
+    // The unit name and the VAT total the print screens are handed.
+    QString UniteAd2;
+    QString KDVTOP;
     QPointer<SinifTani> m_sinif;
 
     QLabel* Label2;
@@ -150,6 +171,12 @@ private:
     QLineEdit* Cikan;
     QLineEdit* Kalan;
     QLabel* TopEleGecen;
+    QLineEdit* Text1;
+    QLineEdit* Text2;
+    QLineEdit* Text3;
+    QLineEdit* lblMahsup;
+    QLineEdit* KDVOran;
+    QLabel* Label10;
     QLabel* Label9;
     QPushButton* cd2;
     QPushButton* Cd4;

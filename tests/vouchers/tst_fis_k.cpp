@@ -1,7 +1,9 @@
 #include "cikti.h"
 #include "fis_izgara.h"
 #include "fis_k.h"
+#include "fis_yaz.h"
 #include "grid_yazdir.h"
+#include "istek_yaz.h"
 #include "klavye.h"
 #include "liste_izgarasi.h"
 #include "modal_yanit.h"
@@ -9,6 +11,7 @@
 #include "sinif_tani.h"
 #include "veri_klasoru.h"
 #include "veritabani.h"
+#include "zimmet_yaz.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -586,35 +589,215 @@ private slots:
         QVERIFY(kontrol<QComboBox>("Detay3")->findText(QStringLiteral("Zımba")) >= 0);
     }
 
-    void henuzHazirDegil_data()
-    {
-        QTest::addColumn<int>("tus");
-        QTest::addColumn<int>("ek");
-        QTest::addColumn<int>("sutun");
-        QTest::addColumn<bool>("cevap");
-        QTest::newRow("F2") << int(Qt::Key_F2) << 0 << 3 << true;
-        QTest::newRow("F7") << int(Qt::Key_F7) << 0 << 3 << true;
-        QTest::newRow("F10") << int(Qt::Key_F10) << 0 << 3 << true;
-        QTest::newRow("Ctrl+F6 on the price") << int(Qt::Key_F6) << int(Qt::ControlModifier) << 6 << true;
-        QTest::newRow("Ctrl+F6 elsewhere") << int(Qt::Key_F6) << int(Qt::ControlModifier) << 3 << false;
-    }
     void henuzHazirDegil()
     {
-        QFETCH(int, tus);
-        QFETCH(int, ek);
-        QFETCH(int, sutun);
-        QFETCH(bool, cevap);
         ac();
         izgara()->HucreYaz(1, 3, QStringLiteral("KALIR"));
-        hucreyeGit(1, sutun);
-        QCOMPARE(kontrol<QPushButton>("CmdKDVEkle")->isVisible(), sutun == 6);
-        ModalYanit tamam(QStringLiteral("Tamam"));
-        TstFisK::tus(tus, Qt::KeyboardModifiers(ek));
-        QTest::qWait(50);
-        QCOMPARE(tamam.Goruldu(), cevap);
-        if (cevap)
+        hucreyeGit(1, 3);
+        {
+            ModalYanit tamam(QStringLiteral("Tamam"));
+            tus(Qt::Key_F10);
             QCOMPARE(tamam.Metin(), QStringLiteral("Bu bölüm henüz hazır değil."));
+        }
+        etkinlestir();
+        ModalYanit tamam(QStringLiteral("Tamam"));
+        kontrol<QPushButton>("Liste")->click();
+        QCOMPARE(tamam.Metin(), QStringLiteral("Bu bölüm henüz hazır değil."));
         QCOMPARE(hucre(1, 3), QStringLiteral("KALIR"));
+    }
+
+    void araToplamlar()
+    {
+        kayitliFis();
+        ac();
+        kontrol("FisNo")->setText(QStringLiteral("1"));
+        tus(Qt::Key_Return);
+        QCOMPARE(kontrol("Text2")->text(), QStringLiteral("12"));
+        QCOMPARE(kontrol("Text3")->text(), QStringLiteral("250"));
+        QCOMPARE(kontrol("Text1")->text().trimmed(), QStringLiteral("0"));
+
+        // Typed lines count when column 5 or 6 is entered, not before.
+        hucreyeGit(3, 5);
+        yaz(QStringLiteral("3"));
+        tus(Qt::Key_Return);
+        QCOMPARE(izgara()->Col(), 6);
+        QCOMPARE(kontrol("Text2")->text(), QStringLiteral("15"));
+        yaz(QStringLiteral("2,5"));
+        tus(Qt::Key_Return);
+        QCOMPARE(kontrol("Text3")->text(), QStringLiteral("250"));
+        hucreyeGit(4, 6);
+        QCOMPARE(kontrol("Text3")->text(), QStringLiteral("257,5"));
+
+        // The page arrows fetch the next voucher with its totals.
+        kontrol("FisNo")->setFocus();
+        tus(Qt::Key_PageDown);
+        QCOMPARE(kontrol("Text2")->text(), QStringLiteral("0"));
+        QCOMPARE(kontrol("Text3")->text(), QStringLiteral("0"));
+    }
+
+    void kdvOranKutusu_data()
+    {
+        QTest::addColumn<QString>("nereden");
+        QTest::newRow("grid") << "T";
+        QTest::newRow("line editor") << "TE1";
+        QTest::newRow("button") << "CmdKDVEkle";
+    }
+    void kdvOranKutusu()
+    {
+        QFETCH(QString, nereden);
+        ac();
+        izgara()->HucreYaz(2, 13, QStringLiteral(" 8 "));
+        // Only the price column has the box.
+        hucreyeGit(2, 5);
+        tus(Qt::Key_F6, Qt::ControlModifier);
+        QVERIFY(!kontrol("KDVOran")->isVisible());
+        hucreyeGit(2, 6);
+        yaz(QStringLiteral("100"));
+        QCOMPARE(odak(), QStringLiteral("TE1"));
+        for (int kez = 0; kez < 2; ++kez) {
+            if (nereden == u"T")
+                izgara()->setFocus();
+            else if (nereden == u"TE1")
+                kontrol("TE1")->setFocus();
+            if (nereden == u"CmdKDVEkle")
+                kontrol<QPushButton>("CmdKDVEkle")->click();
+            else
+                tus(Qt::Key_F6, Qt::ControlModifier);
+            QCOMPARE(odak(), QStringLiteral("KDVOran"));
+            QCOMPARE(kontrol("lblMahsup")->text(), QStringLiteral(" KDV Oran :"));
+            QVERIFY(kontrol("lblMahsup")->isVisible() && kontrol<QLabel>("Label10")->isVisible());
+            // Beside the price cell, on its row.
+            const QRect alan = izgara()->HucreAlani();
+            const QRect hucreAlani(izgara()->viewport()->mapTo(m_ekran, alan.topLeft()), alan.size());
+            const QRect kutu = kontrol("KDVOran")->geometry();
+            QVERIFY(kutu.right() < hucreAlani.left());
+            QVERIFY(hucreAlani.top() <= kutu.center().y() && kutu.center().y() <= hucreAlani.bottom());
+            QCOMPARE(kontrol("KDVOran")->text(), kez == 0 ? QStringLiteral("8") : QStringLiteral("18"));
+            if (kez == 0)
+                yaz(QStringLiteral("18"));
+            tus(Qt::Key_Return);
+            QCOMPARE(odak(), QStringLiteral("T"));
+            QVERIFY(!kontrol("KDVOran")->isVisible() && !kontrol<QLabel>("Label10")->isVisible());
+        }
+        // Each press adds the VAT again.
+        QCOMPARE(hucre(2, 6), QStringLiteral("139,24"));
+        QCOMPARE(hucre(2, 13), QStringLiteral("18"));
+        QCOMPARE(kontrol("TE1")->text(), QStringLiteral("139,24"));
+    }
+
+    void kdvOranVazgecme_data()
+    {
+        QTest::addColumn<QString>("nasil");
+        QTest::addColumn<QString>("fiyat");
+        QTest::addColumn<QString>("oran");
+        QTest::newRow("Esc") << "Esc" << "100" << "8";
+        QTest::newRow("focus lost") << "odak" << "100" << "8";
+        QTest::newRow("no number") << "Enter" << "100" << "%18";
+    }
+    void kdvOranVazgecme()
+    {
+        QFETCH(QString, nasil);
+        QFETCH(QString, fiyat);
+        QFETCH(QString, oran);
+        ac();
+        izgara()->HucreYaz(1, 6, QStringLiteral("100"));
+        izgara()->HucreYaz(1, 13, QStringLiteral("8"));
+        hucreyeGit(1, 6);
+        tus(Qt::Key_F6, Qt::ControlModifier);
+        yaz(QStringLiteral("%18"));
+        if (nasil == u"Esc")
+            tus(Qt::Key_Escape);
+        else if (nasil == u"odak")
+            kontrol("FisNo")->setFocus();
+        else
+            tus(Qt::Key_Return);
+        QVERIFY(!kontrol("KDVOran")->isVisible() && !kontrol("lblMahsup")->isVisible());
+        QCOMPARE(odak(), nasil == u"odak" ? QStringLiteral("FisNo") : QStringLiteral("T"));
+        QCOMPARE(hucre(1, 6), fiyat);
+        QCOMPARE(hucre(1, 13), oran);
+    }
+
+    void f2FisYazdirma()
+    {
+        ac();
+        const auto satir = [this](int i, const char* miktar, const char* fiyat, const char* kdv) {
+            izgara()->HucreYaz(i, 1, QStringLiteral("150 01 01 001"));
+            izgara()->HucreYaz(i, 5, QString::fromLatin1(miktar));
+            izgara()->HucreYaz(i, 6, QString::fromLatin1(fiyat));
+            izgara()->HucreYaz(i, 13, QString::fromLatin1(kdv));
+        };
+        satir(1, "10", "5", "");
+        satir(2, "2", "100", "20");
+        satir(3, "", "7", "");
+        hucreyeGit(1, 3);
+        tus(Qt::Key_F2);
+        auto* fisYaz = m_ekran->findChild<FisYaz*>();
+        QVERIFY(fisYaz);
+        QCOMPARE(fisYaz->KDVTut->text(), QStringLiteral("49"));
+        QCOMPARE(hucre(1, 13), QStringLiteral("18"));
+        QCOMPARE(hucre(3, 13), QString());
+        QCOMPARE(kontrol("Text3")->text(), QStringLiteral("250"));
+        QCOMPARE(fisYaz->Goruntu().MetinNerede(300, 7930), QStringLiteral("İkiYüzElli Lira "));
+        fisYaz->close();
+        QTRY_VERIFY(!m_ekran->findChild<FisYaz*>());
+
+        // Five kuruş cannot be worded: said, and printed without the words.
+        satir(2, "1", "0.05", "20");
+        etkinlestir();
+        ModalYanit tamam(QStringLiteral("Tamam"));
+        kontrol<QPushButton>("Cd4")->click();
+        QVERIFY(tamam.Metin().startsWith(QStringLiteral("Tutar yazıya çevrilemedi")));
+        fisYaz = m_ekran->findChild<FisYaz*>();
+        QVERIFY(fisYaz);
+        QCOMPARE(kontrol("Text3")->text(), QStringLiteral("50,05"));
+        QCOMPARE(fisYaz->KDVTut->text(), QStringLiteral("9,01"));
+        QCOMPARE(fisYaz->Goruntu().MetinNerede(300, 7930), QString());
+    }
+
+    void zimmetVeIstek()
+    {
+        kayitliFis();
+        ac();
+        kontrol("FisNo")->setText(QStringLiteral("1"));
+        tus(Qt::Key_Return);
+        izgara()->HucreYaz(3, 1, QStringLiteral("255 01 01 001"));
+        izgara()->HucreYaz(3, 5, QStringLiteral("1"));
+        // The slip names the unit of line 1, wherever the cursor stands.
+        hucreyeGit(2, 3);
+        kontrol<QPushButton>("Zimmet")->click();
+        auto* zimmet = m_ekran->findChild<ZimmetYaz*>();
+        QVERIFY(zimmet);
+        QCOMPARE(zimmet->Goruntu().MetinNerede(2100, 1770), QStringLiteral("Muhasebe"));
+        QCOMPARE(hucre(3, 13), QStringLiteral("18"));
+
+        etkinlestir();
+        tus(Qt::Key_F7);
+        auto* istek = m_ekran->findChild<IstekYaz*>();
+        QVERIFY(istek);
+        QCOMPARE(istek->Goruntu().MetinNerede(8700, 280), QStringLiteral("G-1"));
+    }
+
+    void istekCikisKipinde()
+    {
+        ac(cikis());
+        kontrol<QPushButton>("Cyaz2")->click();
+        auto* istek = m_ekran->findChild<IstekYaz*>();
+        QVERIFY(istek);
+        QCOMPARE(istek->Goruntu().MetinNerede(8700, 280), QStringLiteral("Ç-1"));
+        QCOMPARE(istek->Goruntu().MetinNerede(1650, 650), QString());
+        istek->close();
+        QTRY_VERIFY(!m_ekran->findChild<IstekYaz*>());
+
+        // A unit code typed by hand is named once the cursor passes the
+        // unit columns.
+        etkinlestir();
+        hucreyeGit(1, 8);
+        yaz(QStringLiteral("3"));
+        hucreyeGit(1, 9);
+        tus(Qt::Key_F7);
+        istek = m_ekran->findChild<IstekYaz*>();
+        QVERIFY(istek);
+        QCOMPARE(istek->Goruntu().MetinNerede(1650, 650), QStringLiteral("Muhasebe"));
     }
 };
 

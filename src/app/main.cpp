@@ -3,16 +3,21 @@
 
 #include "cikti.h"
 #include "ekranlar.h"
+#include "fis_sayfasi.h"
+#include "fis_toplam.h"
+#include "istek_sayfasi.h"
 #include "kod_plani_yukle.h"
 #include "menu.h"
 #include "ornek_veri.h"
 #include "oturum.h"
 #include "parola.h"
+#include "sabit_kayit.h"
 #include "tek_deger.h"
 #include "unite_tanim.h"
 #include "veri_klasoru.h"
 #include "veritabani.h"
 #include "yazici.h"
+#include "zimmet_sayfasi.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -55,6 +60,53 @@ int ornekVeri(const QStringList& argumanlar, const QString& satirMetni)
     return 0;
 }
 
+// One page of a saved voucher: the voucher, its custody slip or its request
+// slip, as the voucher screen's print screens draw it.
+Sayfa fisSayfasi(const QString& klasor, const QString& no, const QString& cins, const QString& yil,
+                 const QString& tur)
+{
+    QString harfHatasi;
+    const FisYazimi yazim = FisToplam::KayittanYazim(klasor, no, cins, yil, &harfHatasi);
+    if (!harfHatasi.isEmpty())
+        hataYaz(harfHatasi);
+    const SabitSatiri sabit = SabitKayit::Getir(klasor).value_or(SabitSatiri());
+    if (tur == QLatin1String("zimmet"))
+        return ZimmetSayfasi(yazim, sabit);
+    if (tur == QLatin1String("istek"))
+        return IstekSayfasi(yazim, sabit);
+    return FisSayfasi(yazim, sabit);
+}
+
+void pdfYaz(const Sayfa& sayfa, const QString& dosya)
+{
+    PdfCikti pdf(dosya);
+    Yazici p(&pdf);
+    p.PaintPicture(sayfa);
+    p.EndDoc();
+}
+
+int yazdir(const QString& klasor, const QStringList& argumanlar, const QCommandLineParser& parser)
+{
+    const QString no = parser.value(QStringLiteral("no"));
+    const QString cins = parser.value(QStringLiteral("cins")).toUpper();
+    const QString yil = parser.value(QStringLiteral("yil"));
+    const QString tur = parser.value(QStringLiteral("sayfa")).isEmpty() ? QStringLiteral("fis")
+                                                                         : parser.value(QStringLiteral("sayfa"));
+    const QString dosya = parser.value(QStringLiteral("cikti"));
+    if (argumanlar.value(1) != QLatin1String("fis") || no.isEmpty() || yil.isEmpty() || dosya.isEmpty()
+        || (cins != QLatin1String("G") && cins != QLatin1String("C"))
+        || !QStringList{QStringLiteral("fis"), QStringLiteral("zimmet"), QStringLiteral("istek")}.contains(tur)) {
+        hataYaz(QStringLiteral("Kullanım: tasinir yazdir fis --veri KLASÖR --no N --cins G|C --yil YYYY "
+                               "[--sayfa fis|zimmet|istek] --cikti DOSYA.pdf"));
+        return 2;
+    }
+    pdfYaz(fisSayfasi(klasor, no, cins, yil, tur), QDir(dosya).absolutePath());
+    std::printf("Yazıldı: %s\n", qPrintable(QDir(dosya).absolutePath()));
+    return 0;
+}
+
+// The sample's forms: the unit list, and the pages of an entry voucher of
+// this year that hands durable goods out, and of an issue voucher.
 int ornekFormlar(const QString& klasor, const QString& ciktiSecenegi)
 {
     const QString cikti = ciktiSecenegi.isEmpty() ? QDir(klasor).filePath(QStringLiteral("formlar"))
@@ -63,11 +115,38 @@ int ornekFormlar(const QString& klasor, const QString& ciktiSecenegi)
         hataYaz(QStringLiteral("Çıktı klasörü oluşturulamadı: %1").arg(cikti));
         return 1;
     }
-    const QString dosya = QDir(cikti).filePath(QStringLiteral("unite_listesi.pdf"));
-    PdfCikti pdf(dosya);
-    Yazici p(&pdf);
-    uniteListesiYazdir(klasor, p);
-    std::printf("Formlar PDF olarak yazıldı: %s\n  %s\n", qPrintable(cikti), qPrintable(dosya));
+    QStringList yazilanlar;
+    const QString liste = QDir(cikti).filePath(QStringLiteral("unite_listesi.pdf"));
+    {
+        PdfCikti pdf(liste);
+        Yazici p(&pdf);
+        uniteListesiYazdir(klasor, p);
+    }
+    yazilanlar << liste;
+
+    Veritabani ayniyat(klasor, Dosya::Ayniyat);
+    const QString yil = EnBuyukMetin(ayniyat, QStringLiteral("FIS_B"), QStringLiteral("Mid(Tarih,7,4)"));
+    const QString giris =
+        AlanGetir(ayniyat, QStringLiteral("FIS"), QStringLiteral("min(FisNo)"),
+                  QStringLiteral(" where FCins = 'G' and Mid(Tarih,7,4) = ? and val(Cikan) > 0 "
+                                 "and Mid(HesapKod,1,3) <> '150'"),
+                  {yil});
+    const QString cikis = AlanGetir(ayniyat, QStringLiteral("FIS_B"), QStringLiteral("min(FisNo)"),
+                                    QStringLiteral(" where FCins = 'C' and Mid(Tarih,7,4) = ?"), {yil});
+    const auto yaz = [&](const QString& no, const QString& cins, const QString& tur) {
+        if (no.isEmpty())
+            return;
+        const QString dosya = QDir(cikti).filePath(QStringLiteral("%1_%2_%3_%4.pdf").arg(tur, cins, yil, no));
+        pdfYaz(fisSayfasi(klasor, no, cins, yil, tur), dosya);
+        yazilanlar << dosya;
+    };
+    for (const char* tur : {"fis", "zimmet", "istek"})
+        yaz(giris, QStringLiteral("G"), QString::fromLatin1(tur));
+    yaz(cikis, QStringLiteral("C"), QStringLiteral("fis"));
+
+    std::printf("Formlar PDF olarak yazıldı: %s\n", qPrintable(cikti));
+    for (const QString& dosya : yazilanlar)
+        std::printf("  %s\n", qPrintable(dosya));
     return 0;
 }
 
@@ -118,14 +197,23 @@ int main(int argc, char* argv[])
                                    QStringLiteral("sayı"));
     const QCommandLineOption cikti(QStringLiteral("cikti"),
                                    QStringLiteral("ornek-formlar: PDF'lerin yazılacağı klasör "
-                                                  "(varsayılan: veri klasöründe formlar)."),
+                                                  "(varsayılan: veri klasöründe formlar); "
+                                                  "yazdir: yazılacak PDF dosyası."),
                                    QStringLiteral("klasör"));
-    parser.addOptions({veri, satir, cikti});
+    const QCommandLineOption no(QStringLiteral("no"), QStringLiteral("yazdir: fiş numarası."), QStringLiteral("N"));
+    const QCommandLineOption cins(QStringLiteral("cins"), QStringLiteral("yazdir: fiş türü, G (giriş) ya da C (çıkış)."),
+                                  QStringLiteral("G|C"));
+    const QCommandLineOption yil(QStringLiteral("yil"), QStringLiteral("yazdir: fişin yılı."), QStringLiteral("YYYY"));
+    const QCommandLineOption sayfa(QStringLiteral("sayfa"),
+                                   QStringLiteral("yazdir: fis (varsayılan), zimmet ya da istek."),
+                                   QStringLiteral("tür"));
+    parser.addOptions({veri, satir, cikti, no, cins, yil, sayfa});
     parser.addPositionalArgument(QStringLiteral("komut"),
                                  QStringLiteral("ornek-veri KLASÖR: boş bir klasöre örnek veri yazar.\n"
                                                 "ornek-formlar: örnek verinin formlarını PDF olarak yazar.\n"
                                                 "kod-plani-yukle DOSYA: kurumun hesap kodu listesini "
                                                 "(kod<TAB>ad) yükler.\n"
+                                                "yazdir fis: kayıtlı bir fişin sayfasını PDF olarak yazar.\n"
                                                 "Komut verilmezse program açılır."),
                                  QStringLiteral("[komut]"));
     parser.process(app);
@@ -141,6 +229,8 @@ int main(int argc, char* argv[])
             return ornekFormlar(klasor, parser.value(cikti));
         if (komut == QLatin1String("kod-plani-yukle"))
             return kodPlani(klasor, argumanlar);
+        if (komut == QLatin1String("yazdir"))
+            return yazdir(klasor, argumanlar, parser);
         if (!komut.isEmpty()) {
             hataYaz(QStringLiteral("Bilinmeyen komut: %1 (tasinir --help)").arg(komut));
             return 2;

@@ -304,7 +304,7 @@ void TstOrnekVeri::sabitlerYazilir()
     Veritabani vt(dizin.path(), Dosya::Genel);
     QCOMPARE(satirlar(vt, QStringLiteral("select Anahtar, CalisYil, CalisAy, KDV1, DamgaOran1, AyniyatMemuru2"
                                          " from Sabit")),
-             QStringList{QStringLiteral("1|2025|6|20|0,948|Taşınır Kayıt ve Kontrol Yetkilisi")});
+             QStringList{QStringLiteral("1|2025|6|20|0,948|Mehmet Kaya")});
     QCOMPARE(sayi(vt, QStringLiteral("select count(*) from Sabit where Len(KurumAdi) > 0 and Len(KurumKod) > 0"
                                      " and Len(Muhasebeci1) > 0 and Len(AyniyatMemuru1) > 0 and Len(itaAmiriAd) > 0"
                                      " and Len(AmbarMemurAd) > 0 and Len(HarcamaYetkilisi1) > 0"

@@ -1,3 +1,4 @@
+#include "etkinlestir.h"
 #include "cikti.h"
 #include "grid_yazdir.h"
 #include "klavye.h"
@@ -56,14 +57,7 @@ class TstUniteTani : public QObject
         m_ekran->show();
         etkinlestir();
     }
-    // The offscreen platform does not give the screen back its activation
-    // when a message box closes.
-    void etkinlestir()
-    {
-        m_ekran->activateWindow();
-        if (!QTest::qWaitForWindowActive(m_ekran))
-            qFatal("the screen did not become active");
-    }
+    void etkinlestir() { Etkinlestir(m_ekran); }
     template <typename T = QLineEdit>
     T* kontrol(const char* ad) const
     {

@@ -1,3 +1,4 @@
+#include "etkinlestir.h"
 #include "modal_yanit.h"
 #include "sabit.h"
 #include "sabit_kayit.h"
@@ -50,14 +51,7 @@ class TstSabit : public QObject
         m_ekran->show();
         etkinlestir();
     }
-    // The offscreen platform does not give the screen back its activation
-    // when a message box closes, as a window manager does.
-    void etkinlestir()
-    {
-        m_ekran->activateWindow();
-        if (!QTest::qWaitForWindowActive(m_ekran))
-            qFatal("the screen did not become active");
-    }
+    void etkinlestir() { Etkinlestir(m_ekran); }
     QLineEdit* kutu(const QString& ad) const { return m_ekran->findChild<QLineEdit*>(ad); }
     QString odak() const { return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString(); }
     static void tus(int kod, Qt::KeyboardModifiers ek = Qt::NoModifier)

@@ -1,3 +1,4 @@
+#include "etkinlestir.h"
 #include "cikti.h"
 #include "fis_izgara.h"
 #include "fis_k.h"
@@ -88,14 +89,7 @@ class TstFisK : public QObject
         m_ekran->show();
         etkinlestir();
     }
-    // The offscreen platform does not give the screen back its activation
-    // when a message box closes.
-    void etkinlestir()
-    {
-        m_ekran->activateWindow();
-        if (!QTest::qWaitForWindowActive(m_ekran))
-            qFatal("the screen did not become active");
-    }
+    void etkinlestir() { Etkinlestir(m_ekran); }
     template <typename T = QLineEdit>
     T* kontrol(const char* ad) const
     {

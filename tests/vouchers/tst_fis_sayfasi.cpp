@@ -1,3 +1,4 @@
+#include "etkinlestir.h"
 #include "cikti.h"
 #include "fis_sayfasi.h"
 #include "fis_yaz.h"
@@ -118,14 +119,7 @@ class TstFisSayfasi : public QObject
         m_ekran->show();
         etkinlestir();
     }
-    // The offscreen platform does not give the screen back its activation
-    // when a message box closes.
-    void etkinlestir()
-    {
-        m_ekran->activateWindow();
-        if (!QTest::qWaitForWindowActive(m_ekran))
-            qFatal("the screen did not become active");
-    }
+    void etkinlestir() { Etkinlestir(m_ekran); }
 
 private slots:
     void init()

@@ -67,10 +67,6 @@ double ToplamY(const FisEkrani& fis)
     return SatirY(son + 1);
 }
 
-double Miktar(const FisEkrani& fis, int i)
-{
-    return Val(fis.Hucre(i, fis.FCins == u"G" ? 5 : 10));
-}
 
 // The rule above the line of the voucher standing at y.
 double SatirCizgisi(double y)
@@ -309,13 +305,13 @@ void SatirlariYaz(Sayfa& sayfa, const FisEkrani& fis)
                 metin = fis.Hucre(i, 4).left(7);
                 break;
             case 5:
-                metin = SayiMetni(Miktar(fis, i));
+                metin = SayiMetni(FisYazimiKurali::Miktar(fis, i));
                 break;
             case 6:
                 metin = SayiMetni(Val(fis.Hucre(i, 6)));
                 break;
             default: {
-                QVariant tutar = Val(fis.Hucre(i, 6)) * Miktar(fis, i);
+                QVariant tutar = Val(fis.Hucre(i, 6)) * FisYazimiKurali::Miktar(fis, i);
                 metin = Tutar2Yaz(tutar, 15);
             }
             }

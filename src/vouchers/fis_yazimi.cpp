@@ -15,6 +15,11 @@ QString FisYazimiKurali::CinsIsareti(const QString& cins, const FisEkrani& fis)
     return QStringLiteral("G");
 }
 
+double FisYazimiKurali::Miktar(const FisEkrani& fis, int satir)
+{
+    return Val(fis.Hucre(satir, fis.FCins == QLatin1String("G") ? 5 : 10));
+}
+
 QString FisYazimiKurali::SicilYazisi(const FisEkrani& fis, int satir, int son)
 {
     const QString kok = SayiMetni(Val(fis.Hucre(satir, 1).left(13))) + fis.Tarih.mid(6, 4)

@@ -23,6 +23,10 @@ namespace FisYazimiKurali {
 // "GÇ" for an entry of which a line among rows 1 to 25 also hands out.
 QString CinsIsareti(const QString& cins, const FisEkrani& fis);
 
+// The quantity a printed form shows for a line: the incoming one of an
+// entry voucher, the outgoing one of an issue voucher.
+double Miktar(const FisEkrani& fis, int satir);
+
 // The register number printed for line `satir` of the grid: the first 21
 // characters of the code's digits, the year of the date and the voucher
 // number joined, then `son` (the line number, or the slip's own counter).

@@ -165,7 +165,7 @@ Sayfa ZimmetSayfasi(const FisYazimi& yazim, const SabitSatiri& sabit)
         Ciz::Yaz(s, 3260, y, fis.Hucre(i, 3).left(35), 9);
         Ciz::Yaz(s, 7600, y, fis.Hucre(i, 4).left(7), 9);
         // What came in on an entry voucher, what went out on an issue voucher.
-        Ciz::Yaz(s, 6700, y, SayiMetni(Val(fis.Hucre(i, fis.FCins == "G"_L1 ? 5 : 10))), 9);
+        Ciz::Yaz(s, 6700, y, SayiMetni(FisYazimiKurali::Miktar(fis, i)), 9);
     }
     return s;
 }

@@ -89,6 +89,15 @@ void Veritabani::Ac(bool yeni)
     }
     try {
         SqlIslevleri::Kaydet(Baglanti());
+        // A file that is not ours is not touched, not even by a pragma.
+        if (!yeni) {
+            QSqlQuery kimlik = Sorgu(QStringLiteral("PRAGMA application_id"));
+            if (!kimlik.next() || kimlik.value(0).toInt() != Sema::UygulamaKimligi)
+                throw VeriHatasi(yabanciDosya(m_yol));
+        }
+        // Readers never block a writer: a long list still being read on one
+        // screen must not stop a save on another.
+        Calistir(QStringLiteral("PRAGMA journal_mode = WAL"));
         Calistir(QStringLiteral("PRAGMA synchronous = FULL"));
         if (yeni) {
             Islem islem(*this);
@@ -96,10 +105,6 @@ void Veritabani::Ac(bool yeni)
             Sema::Tamamla(*this, m_dosya);
             Sema::TeslimSatirlari(*this, m_dosya);
             islem.Onayla();
-        } else {
-            QSqlQuery kimlik = Sorgu(QStringLiteral("PRAGMA application_id"));
-            if (!kimlik.next() || kimlik.value(0).toInt() != Sema::UygulamaKimligi)
-                throw VeriHatasi(yabanciDosya(m_yol));
         }
     } catch (...) {
         QSqlDatabase::database(m_ad, false).close();

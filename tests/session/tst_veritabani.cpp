@@ -322,6 +322,31 @@ private slots:
         QVERIFY(SqlIslevleri::TurkceBenzer(u"İSTANBUL", u"%tan%"));
     }
 
+    void okuyanListeYaziciyiBeklemez()
+    {
+        QTemporaryDir tmp;
+        Veritabani liste(tmp.path(), Dosya::Ayniyat);
+        {
+            Islem islem(liste);
+            for (int i = 1; i <= 500; ++i)
+                liste.Calistir(QStringLiteral("insert into FIS (FisNo, Tarih) values (?, '01.02.2026')"), {i});
+            islem.Onayla();
+        }
+        // A list that has read only its first rows keeps its statement open.
+        QSqlQuery okunan = liste.Sorgu(QStringLiteral("select FisNo from FIS order by FisNo"));
+        QVERIFY(okunan.next());
+        Veritabani kayit(tmp.path(), Dosya::Ayniyat);
+        {
+            Islem islem(kayit);
+            kayit.Calistir(QStringLiteral("delete from FIS where FisNo = 500"));
+            islem.Onayla();
+        }
+        int sayi = 1;
+        while (okunan.next())
+            ++sayi;
+        QCOMPARE(sayi, 500);  // the reader keeps the picture it began with
+    }
+
     void tarihCercevesi()
     {
         QTemporaryDir tmp;

@@ -2,37 +2,51 @@
 
 #include "izgara.h"
 
-#include <QStandardItemModel>
 #include <QTableView>
 
+class ListeModeli;
 class Veritabani;
 
 // A list grid with the manners of the old flex grid: row 0 is the heading,
 // rows of data count from 1, column widths are given in twips, and a width
 // below 101 twips hides the column. Read only; filled from a query or rows.
+// A query's rows come a block at a time as the list scrolls, so that a list
+// over a million lines opens at once.
 class ListeIzgarasi : public QTableView
 {
     Q_OBJECT
 
 public:
     explicit ListeIzgarasi(QWidget* ebeveyn = nullptr);
+    ~ListeIzgarasi() override;
+
+    // Rows read from a query at each fetch.
+    static constexpr int Blok = 256;
 
     void Basliklar(const QStringList& basliklar);
     void Genislikler(const QList<int>& twipler);
-    // Replaces the rows with those of the query (values bound).
+    // Replaces the rows with those of the query (values bound). The grid
+    // reads on its own connection to vt's file, so vt may go at once; the
+    // query holds its read until its last row is fetched or the grid is
+    // filled anew. Throws VeriHatasi when the query fails.
     void Doldur(Veritabani& vt, const QString& sql, const QVariantList& degerler = {});
     void Satirlar(const QList<QStringList>& satirlar);
     void SatirEkle(const QStringList& satir);
     void Temizle();
+    // Sets one cell of a data row (1 upward) already read.
+    void HucreYaz(int satir, int sutun, const QString& metin);
 
-    // Rows including the heading row, as the flex grid counted them.
+    // Rows including the heading row, as the flex grid counted them; rows not
+    // fetched yet are counted.
     int Rows() const;
+    // Rows read so far, the heading not counted.
+    int Okunan() const;
     QString TextMatrix(int satir, int sutun) const;
     // The current row (1 upward), 0 when there is none.
     int Row() const;
     int Col() const;
     void SatirSec(int satir, int sutun = 0);
-    // What the grid holds, for printing.
+    // What the grid holds, for printing: the rest of a query is read first.
     Izgara Anlik() const;
 
 signals:
@@ -46,7 +60,7 @@ protected:
     void keyPressEvent(QKeyEvent* olay) override;
 
 private:
-    QStandardItemModel m_model;
+    ListeModeli* m_model;
     QList<int> m_genislikler;
     void GenislikleriUygula();
 };

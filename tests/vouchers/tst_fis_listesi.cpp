@@ -1,0 +1,295 @@
+#include "cikti.h"
+#include "etkinlestir.h"
+#include "fis_izgara.h"
+#include "fis_k.h"
+#include "fis_kayit.h"
+#include "fis_l.h"
+#include "fis_listesi.h"
+#include "grid_yazdir.h"
+#include "klavye.h"
+#include "liste_izgarasi.h"
+#include "saat.h"
+#include "veri_klasoru.h"
+#include "veritabani.h"
+
+#include <QAbstractButton>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+
+class TstFisListesi : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_tmp;
+    QPointer<FIS_L> m_liste;
+
+    QString klasor() const { return m_tmp->path(); }
+    CalismaBaglami baglam() const { return {QStringLiteral("2026"), QStringLiteral("3"), QString(), klasor()}; }
+
+    QStringList numaralar(const FisListesi::Suzgec& s)
+    {
+        const FisListesi::Komut k = FisListesi::Sorgu(s);
+        Veritabani vt(klasor(), Dosya::Ayniyat);
+        QStringList sonuc;
+        for (const QStringList& satir : vt.Satirlar(k.sql, k.degerler))
+            sonuc << satir.at(0);
+        return sonuc;
+    }
+
+    void ac()
+    {
+        m_liste = new FIS_L(baglam(), QStringLiteral("G"));
+        m_liste->show();
+        Etkinlestir(m_liste);
+    }
+    template <typename T = QLineEdit>
+    T* kontrol(const char* ad) const
+    {
+        return m_liste->findChild<T*>(QString::fromLatin1(ad));
+    }
+    ListeIzgarasi* izgara() const { return kontrol<ListeIzgarasi>("T"); }
+    QStringList gorunen() const
+    {
+        QStringList no;
+        for (int r = 1; r < izgara()->Rows(); ++r)
+            no << izgara()->TextMatrix(r, 0);
+        return no;
+    }
+    // A click on the mark of an option or of the tick box.
+    void isaretle(const char* ad) const
+    {
+        auto* d = kontrol<QAbstractButton>(ad);
+        QTest::mouseClick(d, Qt::LeftButton, {}, QPoint(6, d->height() / 2));
+    }
+    static void ciftTikla(ListeIzgarasi* t, int satir)
+    {
+        const QPoint yer = satir > 0 ? t->visualRect(t->model()->index(satir - 1, 0)).center()
+                                     : QPoint(5, t->viewport()->height() - 5);
+        // The widget form of mouseDClick sends no press of its own.
+        QTest::mouseClick(t->viewport(), Qt::LeftButton, {}, yer);
+        QTest::mouseDClick(t->viewport(), Qt::LeftButton, {}, yer);
+    }
+
+private slots:
+    void init()
+    {
+        Saat::Ayarla(QDate(2026, 3, 14));
+        m_tmp = std::make_unique<QTemporaryDir>();
+        VeriKlasoru::Hazirla(klasor());
+        Veritabani vt(klasor(), Dosya::Ayniyat);
+        const QString ekle = QStringLiteral("insert into FIS_B (FisNo, Tarih, FCins, TeslimAlan, Ozellik, BelgeSayi, "
+                                            "NeredenGeldigi) values (?, ?, ?, ?, ?, ?, ?)");
+        vt.Calistir(ekle, {1, "05.01.2026", "G", "Mehmet Kaya", "MAVİ", "A-12", "Ankara"});
+        vt.Calistir(ekle, {2, "10.02.2026", "G", "Ayşe Işık", "KIRMIZI", "B-7", "İzmir"});
+        vt.Calistir(ekle, {3, "01.03.2026", "G", "mehmet Öz", "MAVİ KALEM", "A-30", "Bursa"});
+        vt.Calistir(ekle, {5, "20.03.2026", "G", "İlker Tan", "YEŞİL", "C-1", "ılgaz"});
+        vt.Calistir(ekle, {6, "bozuk", "G", "Işıl Er", "SARI", "C-2", "Adana"});
+        vt.Calistir(ekle, {4, "15.02.2026", "C", "Mehmet Kaya", "MAVİ", "A-12", "Ankara"});
+    }
+    void cleanup()
+    {
+        delete m_liste;
+        Saat::Ayarla({});
+    }
+
+    // The statement: the last filled text filter replaces the number and
+    // every filter before it; the dates frame what is left.
+    void sorgu_data()
+    {
+        QTest::addColumn<QString>("fisNo");
+        QTest::addColumn<QString>("teslim");
+        QTest::addColumn<QString>("ozellik");
+        QTest::addColumn<QString>("belge");
+        QTest::addColumn<QString>("nereden");
+        QTest::addColumn<QDate>("bas");
+        QTest::addColumn<QDate>("bit");
+        QTest::addColumn<QStringList>("beklenen");
+        const QDate yok;
+        QTest::newRow("boş: türün tümü, azalan") << "" << "" << "" << "" << "" << yok << yok
+                                                 << QStringList{"6", "5", "3", "2", "1"};
+        QTest::newRow("numaradan başlar") << "3abc" << "" << "" << "" << "" << yok << yok
+                                          << QStringList{"6", "5", "3"};
+        QTest::newRow("teslim alan numarayı düşürür") << "3" << "MEH" << "" << "" << "" << yok << yok
+                                                      << QStringList{"3", "1"};
+        QTest::newRow("özellik teslim alanı değiştirir") << "" << "Ayşe" << "mavi" << "" << "" << yok << yok
+                                                         << QStringList{"3", "1"};
+        QTest::newRow("belge sayı özelliği değiştirir") << "" << "" << "mavi" << "C-" << "" << yok << yok
+                                                        << QStringList{"6", "5"};
+        QTest::newRow("nereden geldiği en son") << "" << "Ayşe" << "mavi" << "B" << "I" << yok << yok
+                                                << QStringList{"5"};
+        QTest::newRow("joker yazılan gibi") << "" << "%Kaya" << "" << "" << "" << yok << yok << QStringList{"1"};
+        QTest::newRow("başlama tarihi") << "" << "" << "" << "" << "" << QDate(2026, 2, 10) << yok
+                                        << QStringList{"5", "3", "2"};
+        QTest::newRow("tarih aralığı") << "" << "" << "" << "" << "" << QDate(2026, 1, 6) << QDate(2026, 3, 1)
+                                       << QStringList{"3", "2"};
+        QTest::newRow("süzgeç ve tarih") << "" << "" << "mavi" << "" << "" << QDate(2026, 2, 1) << yok
+                                         << QStringList{"3"};
+    }
+    void sorgu()
+    {
+        QFETCH(QString, fisNo);
+        QFETCH(QString, teslim);
+        QFETCH(QString, ozellik);
+        QFETCH(QString, belge);
+        QFETCH(QString, nereden);
+        QFETCH(QDate, bas);
+        QFETCH(QDate, bit);
+        QFETCH(QStringList, beklenen);
+        FisListesi::Suzgec s;
+        s.FisNo = fisNo;
+        s.TeslimAlan = teslim;
+        s.Ozellik = ozellik;
+        s.BelgeSayi = belge;
+        s.NeredenGeldigi = nereden;
+        s.Tarih = bas;
+        s.Tarih1 = bit;
+        s.FCins1 = QStringLiteral("G");
+        QCOMPARE(numaralar(s), beklenen);
+    }
+
+    // Dates sort as the texts they are, day first.
+    void siralama_data()
+    {
+        QTest::addColumn<int>("secenek");
+        QTest::addColumn<bool>("artan");
+        QTest::addColumn<QStringList>("beklenen");
+        QTest::newRow("fiş no artan") << 1 << true << QStringList{"1", "2", "3", "5", "6"};
+        QTest::newRow("tarih metin sırası") << 2 << true << QStringList{"3", "1", "2", "5", "6"};
+        QTest::newRow("teslim alan azalan") << 4 << false << QStringList{"3", "1", "5", "6", "2"};
+        QTest::newRow("tutar öncekini korur") << 6 << true << QStringList{"1", "2", "3", "5", "6"};
+        QTest::newRow("nereden geldiği") << 7 << true << QStringList{"6", "1", "3", "5", "2"};
+    }
+    void siralama()
+    {
+        QFETCH(int, secenek);
+        QFETCH(bool, artan);
+        QFETCH(QStringList, beklenen);
+        FisListesi::Suzgec s;
+        s.FCins1 = QStringLiteral("G");
+        s.SiraSutunu = FisListesi::SiraSutunu(secenek, s.SiraSutunu);
+        s.Artan = artan;
+        QCOMPARE(numaralar(s), beklenen);
+    }
+
+    // The list opens up to the year's end, descending; typing, the options
+    // and the tick refill it at once.
+    void ekrandanSuzme()
+    {
+        ac();
+        QVERIFY(kontrol<TarihSecici>("Tarih")->Bos());
+        QCOMPARE(kontrol<TarihSecici>("Tarih1")->Metin(), QStringLiteral("31.12.2026"));
+        QCOMPARE(gorunen(), (QStringList{"5", "3", "2", "1"}));
+        QTest::keyClicks(kontrol("FisNo"), QStringLiteral("3"));
+        QCOMPARE(gorunen(), (QStringList{"5", "3"}));
+        TurkceYaz(kontrol("TeslimAlan"), QStringLiteral("Ayşe"));
+        QCOMPARE(gorunen(), (QStringList{"2"}));
+        kontrol("TeslimAlan")->clear();
+        kontrol("FisNo")->clear();
+        isaretle("Op4");
+        QCOMPARE(gorunen(), (QStringList{"3", "1", "5", "2"}));
+        isaretle("Op6");
+        isaretle("Check1");
+        QCOMPARE(gorunen(), (QStringList{"2", "5", "1", "3"}));
+        kontrol<TarihSecici>("Tarih1")->setDate(QDate(2026, 2, 28));
+        QCOMPARE(gorunen(), (QStringList{"2", "1"}));
+    }
+
+    // Enter and a double click hand the row's number over and close the
+    // list, an empty one an empty number; Esc closes it without a choice.
+    void secim_data()
+    {
+        QTest::addColumn<int>("tus");
+        QTest::addColumn<QString>("ozellik");
+        QTest::addColumn<QStringList>("secilen");
+        QTest::newRow("Enter") << int(Qt::Key_Return) << "" << QStringList{"2"};
+        QTest::newRow("çift tıklama") << 0 << "" << QStringList{"2"};
+        QTest::newRow("boş listede çift tıklama") << 0 << "yok" << QStringList{""};
+        QTest::newRow("Esc") << int(Qt::Key_Escape) << "" << QStringList();
+    }
+    void secim()
+    {
+        QFETCH(int, tus);
+        QFETCH(QString, ozellik);
+        QFETCH(QStringList, secilen);
+        ac();
+        QSignalSpy sinyal(m_liste.data(), &FIS_L::FisSecildi);
+        QTest::keyClicks(kontrol("Ozellik"), ozellik);
+        QTest::keyClick(kontrol("Ozellik"), Qt::Key_Down);
+        QCOMPARE(QApplication::focusWidget(), izgara());
+        const int satir = ozellik.isEmpty() ? 3 : 0;
+        if (tus) {
+            izgara()->SatirSec(satir);
+            QTest::keyClick(izgara(), Qt::Key(tus));
+        } else {
+            ciftTikla(izgara(), satir);
+        }
+        QStringList gelen;
+        for (const QList<QVariant>& s : sinyal)
+            gelen << s.at(0).toString();
+        QCOMPARE(gelen, secilen);
+        QTRY_VERIFY(!m_liste);
+    }
+
+    void yazdirma()
+    {
+        ac();
+        BellekCikti cikti;
+        m_liste->CiktiSec(&cikti);
+        QTest::keyClicks(kontrol("FisNo"), QStringLiteral("3"));
+        kontrol<QPushButton>("Command12")->click();
+        QCOMPARE(cikti.belgeler.size(), 1);
+        const Sayfa& s = cikti.belgeler[0].value(0);
+        QCOMPARE(s.MetinNerede(10 * MmTwip, 5 * MmTwip), QStringLiteral("  Fiş Listesi    "));
+        QVERIFY(s.YaziNerede(5 * MmTwip, 15 * MmTwip)->kalin);
+        QCOMPARE(s.MetinNerede(5 * MmTwip, 15 * MmTwip), QStringLiteral("FişNo"));
+        QCOMPARE(s.MetinNerede(5 * MmTwip, 20 * MmTwip), QStringLiteral("5"));
+        QCOMPARE(s.MetinNerede(5 * MmTwip + 700, 25 * MmTwip), QStringLiteral("01.03.2026"));
+        // The kind column is hidden and prints nothing; no voucher here has a
+        // document date.
+        QCOMPARE(s.yazilar.size(), 1 + 7 + 2 * 6);
+    }
+
+    // From the voucher screen: Liste opens one list of its kind, a double
+    // click brings the voucher.
+    void fisEkranindanSecim()
+    {
+        FisEkrani f;
+        f.FisNo = QStringLiteral("7");
+        f.Tarih = QStringLiteral("12.03.2026");
+        f.FCins = f.Hangi = QStringLiteral("G");
+        f.CalisYil = QStringLiteral("2026");
+        f.CalisAy = QStringLiteral("3");
+        f.TeslimAlan = QStringLiteral("Zeki Demir");
+        f.Satirlar = {{"", "150 01 01 001", "A4 Kağıt", "BEYAZ", "PAKET", "10", "5", "", "", "1", "", "", "", "18",
+                       "", "", ""}};
+        QCOMPARE(FisKayit::Kaydet(klasor(), f, [] { return true; }), KayitSonucu::Kaydedildi);
+
+        auto fis = std::make_unique<FIS_K>(baglam());
+        fis->KipAyarla({{"FCins", "G"}, {"Hangi", "G"}});
+        fis->show();
+        Etkinlestir(fis.get());
+        auto* liste = fis->findChild<QPushButton*>(QStringLiteral("Liste"));
+        liste->click();
+        liste->click();
+        QCOMPARE(fis->findChildren<FIS_L*>().size(), 1);
+        m_liste = fis->findChild<FIS_L*>();
+        QVERIFY(m_liste->isVisible());
+        QCOMPARE(izgara()->TextMatrix(1, 0), QStringLiteral("7"));
+        ciftTikla(izgara(), 1);
+        QTRY_VERIFY(!m_liste);
+        QCOMPARE(fis->findChild<QLineEdit*>(QStringLiteral("FisNo"))->text(), QStringLiteral("7"));
+        QCOMPARE(fis->findChild<QLineEdit*>(QStringLiteral("Tarih"))->text(), QStringLiteral("12.03.2026"));
+        auto* satirlar = fis->findChild<FisIzgarasi*>(QStringLiteral("T"));
+        QCOMPARE(satirlar->TextMatrix(1, 3), QStringLiteral("BEYAZ"));
+        QVERIFY(!fis->findChild<QLineEdit*>(QStringLiteral("Text3"))->text().isEmpty());
+    }
+};
+
+QTEST_MAIN(TstFisListesi)
+#include "tst_fis_listesi.moc"

@@ -2,6 +2,7 @@
 
 #include "fis_k.h"
 #include "hesap_k.h"
+#include "malzeme_l.h"
 #include "menu.h"
 #include "sabit.h"
 #include "sinif_tani.h"
@@ -51,6 +52,7 @@ void EkranlariTanimla(Menu& menu)
                       tekOrnek<FIS_K>([fis](FIS_K& f) { *fis = &f; },
                                       [](FIS_K& f, const QVariantMap& kip) { f.KipAyarla(kip); }));
     menu.EkranTanimla(QStringLiteral("HESAP_K"), tekOrnek<HESAP_K>());
+    menu.EkranTanimla(QStringLiteral("Malzeme_L"), tekOrnek<Malzeme_L>());
     menu.EkranTanimla(QStringLiteral("SinifTani"), tekOrnek<SinifTani>(listeyiYenile));
     menu.EkranTanimla(QStringLiteral("Unite_TANI"), tekOrnek<Unite_TANI>(listeyiYenile));
     menu.EkranTanimla(QStringLiteral("Sabit"), tekOrnek<Sabit>([&menu](Sabit& sabit) {

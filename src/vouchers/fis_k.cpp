@@ -2,11 +2,13 @@
 
 #include "bicim.h"
 #include "fis_izgara.h"
+#include "fis_l.h"
 #include "fis_toplam.h"
 #include "fis_yaz.h"
 #include "istek_yaz.h"
 #include "kayit.h"
 #include "liste_izgarasi.h"
+#include "malzeme_l.h"
 #include "saat.h"
 #include "sinif_tani.h"
 #include "tek_deger.h"
@@ -21,6 +23,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScrollBar>
 #include <QToolButton>
 
@@ -29,7 +32,6 @@
 
 namespace {
 
-const QString hazirDegil = QStringLiteral("Bu bölüm henüz hazır değil.");
 
 bool enterMi(const QKeyEvent* olay)
 {
@@ -191,6 +193,11 @@ FIS_K::FIS_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
     toplamKutusu(Kalan, QStringLiteral("Kalan"));
     for (QLineEdit* k : {Gelen, Cikan, Kalan})
         k->hide();
+    toplamKutusu(GelenTop1, QStringLiteral("GelenTop1"));
+    toplamKutusu(CikanTop1, QStringLiteral("CikanTop1"));
+    toplamKutusu(KalanTop1, QStringLiteral("KalanTop1"));
+    for (QLineEdit* k : {GelenTop1, CikanTop1, KalanTop1})
+        k->hide();
     TopEleGecen = new QLabel(this);
     TopEleGecen->setObjectName(QStringLiteral("TopEleGecen"));
     TopEleGecen->hide();
@@ -328,15 +335,12 @@ FIS_K::FIS_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
     connect(Command8, &QPushButton::clicked, this, &FIS_K::SinifEkraniAc);
     connect(Command6, &QPushButton::clicked, this, &FIS_K::Command6Komutu);
     connect(Cmd9, &QPushButton::clicked, this, &FIS_K::HareketYazdir);
-    connect(cd3, &QPushButton::clicked, this, [this] {
-        if (T->Col() != 0 && T->Col() != 2)
-            HazirDegil();
-    });
+    connect(cd3, &QPushButton::clicked, this, [this] { MalzemeListesiAc(true); });
     connect(Cd4, &QPushButton::clicked, this, &FIS_K::FisYazdir);
     connect(CmdKDVEkle, &QPushButton::clicked, this, &FIS_K::kdvORAN2);
     connect(Cyaz2, &QPushButton::clicked, this, &FIS_K::IstekYazdir);
     connect(Zimmet, &QPushButton::clicked, this, &FIS_K::ZimmetYazdir);
-    connect(Liste, &QPushButton::clicked, this, &FIS_K::HazirDegil);
+    connect(Liste, &QPushButton::clicked, this, &FIS_K::ListeAc);
     connect(cd8, &QPushButton::clicked, this, &QWidget::close);
 
     TusTanimla(QKeySequence(Qt::Key_F1), [this] {
@@ -359,7 +363,7 @@ FIS_K::FIS_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
                                            Qt::KeyboardModifiers(Qt::ControlModifier),
                                            Qt::KeyboardModifiers(Qt::AltModifier)})
         TusTanimla(QKeySequence(ek | Qt::Key_F9), [this] { Command6Komutu(); });
-    TusTanimla(QKeySequence(Qt::Key_F10), [this] { HazirDegil(); });
+    TusTanimla(QKeySequence(Qt::Key_F10), [this] { MalzemeListesiAc(false); });
     TusTanimla(QKeySequence(Qt::Key_Insert), [this] { AsagiKopyala(); });
 
     GridHazirla();
@@ -468,11 +472,6 @@ bool FIS_K::Dene(const std::function<void()>& is, const QString& basarisiz)
         oldu = true;
     });
     return oldu;
-}
-
-void FIS_K::HazirDegil()
-{
-    Bildir(hazirDegil);
 }
 
 void FIS_K::AraToplam()
@@ -1243,6 +1242,55 @@ void FIS_K::OdakAl()
     T->setFocus();
 }
 
+void FIS_K::MalzemeListesiAc(bool dugme)
+{
+    const int sutun = T->Col();
+    if (dugme && (sutun == 0 || sutun == 2))
+        return;
+    if (!m_malzeme) {
+        m_malzeme = new Malzeme_L(Baglam(), this);
+        m_malzeme->AliciSec(this);
+    }
+    if (sutun == 1) {
+        m_malzeme->Hangi = QStringLiteral("Fis_K");
+        m_malzeme->HesapKod->setText(HesKod->currentText());
+    } else if (sutun == 3) {
+        m_malzeme->Hangi = QStringLiteral("Fis_K");
+        m_malzeme->Option3->setChecked(true);
+        if (Hucre(3).isEmpty())
+            m_malzeme->HesapKod->setText(Hucre(1));
+        else
+            m_malzeme->Ozellik->setText(Hucre(3));
+    } else if (dugme) {
+        // Seen from here a double click must not fill the voucher.
+        m_malzeme->Hangi = QStringLiteral("Fis");
+    }
+    m_malzeme->show();
+    m_malzeme->raise();
+    m_malzeme->activateWindow();
+    m_malzeme->T->setFocus();
+}
+
+void FIS_K::MalzemeAl(const QString& malzAdi, const QString& ozellik, const QString& hesapKod,
+                      const QString& birimFiyat, const QString& birimi, const QString& kdv, const QString& gelen,
+                      const QString& cikan, const QString& kalan)
+{
+    HucreYaz(2, malzAdi);
+    HucreYaz(3, ozellik);
+    HucreYaz(1, hesapKod);
+    HucreYaz(6, birimFiyat);
+    HucreYaz(4, birimi);
+    HucreYaz(13, kdv);
+    T->HucreSec(T->Row(), 5);
+    GelenTop1->setText(gelen);
+    CikanTop1->setText(cikan);
+    KalanTop1->setText(kalan);
+    for (QLineEdit* k : {GelenTop1, CikanTop1, KalanTop1})
+        k->show();
+    activateWindow();
+    T->setFocus();
+}
+
 void FIS_K::Command6Komutu()
 {
     const int sutun = T->Col();
@@ -1292,4 +1340,22 @@ void FIS_K::HareketYazdir()
     Yazdir([this](Yazici& p) {
         FisSatir::HareketYazdir(p, Hucre(1), Hucre(2), Tarih->text(), L3->Anlik(), TopEleGecen->text());
     });
+}
+
+void FIS_K::ListeAc()
+{
+    if (!m_liste) {
+        m_liste = new FIS_L(Baglam(), FCins, this);
+        connect(m_liste, &FIS_L::FisSecildi, this, [this](const QString& no) {
+            FisNo->setText(no);
+            // An empty number, from an empty list, brings nothing.
+            if (!Getir() && !no.trimmed().isEmpty()) {
+                SatirlariGetir();
+                AraToplam();
+            }
+        });
+    }
+    m_liste->show();
+    m_liste->raise();
+    m_liste->activateWindow();
 }

@@ -3,6 +3,7 @@
 #include "fis_kayit.h"
 #include "fis_satir.h"
 #include "kart_ekrani.h"
+#include "malzeme_alici.h"
 #include "sinif_alici.h"
 
 #include <QPointer>
@@ -10,8 +11,10 @@
 
 #include <functional>
 
+class FIS_L;
 class FisIzgarasi;
 class ListeIzgarasi;
+class Malzeme_L;
 class QComboBox;
 class QKeyEvent;
 class QLabel;
@@ -26,7 +29,7 @@ struct FisYazimi;
 // "Fiş Giriş-Düzeltme": the voucher typed from the keyboard, a head of boxes
 // over a grid of lines. The grid never edits: a box, a date editor or a
 // combo stands over its current cell and sends its value back.
-class FIS_K : public KartEkrani, public SinifAlici
+class FIS_K : public KartEkrani, public SinifAlici, public MalzemeAlici
 {
     Q_OBJECT
 
@@ -53,6 +56,9 @@ public:
     void SinifAl(const QString& hesapKod, const QString& malzAdi, const QString& birimi,
                  const QString& kdv) override;
     void OdakAl() override;
+    void MalzemeAl(const QString& malzAdi, const QString& ozellik, const QString& hesapKod,
+                   const QString& birimFiyat, const QString& birimi, const QString& kdv, const QString& gelen,
+                   const QString& cikan, const QString& kalan) override;
 
 protected:
     bool event(QEvent* olay) override;
@@ -64,7 +70,9 @@ private:
     // Runs a database step under the busy cursor; on failure the status line
     // shows the given text (if any) and the error is shown.
     bool Dene(const std::function<void()>& is, const QString& basarisiz = QString());
-    void HazirDegil();
+    // The material list by the current column: F10, or the button, which
+    // leaves columns 0 and 2 alone and opens it for viewing only from 4 on.
+    void MalzemeListesiAc(bool dugme);
 
     // The running totals under the grid.
     void AraToplam();
@@ -125,6 +133,9 @@ private:
     void L3Kapat();
     void HareketYazdir();
 
+    // Liste: the list of the vouchers of the kind, one while it is open.
+    void ListeAc();
+
     QString ilk1;
     QString FCins;
     QString Hangi;
@@ -137,6 +148,8 @@ private:
     QString UniteAd2;
     QString KDVTOP;
     QPointer<SinifTani> m_sinif;
+    QPointer<Malzeme_L> m_malzeme;
+    QPointer<FIS_L> m_liste;
 
     QLabel* Label2;
     QLineEdit* FisNo;
@@ -170,6 +183,9 @@ private:
     QLineEdit* Gelen;
     QLineEdit* Cikan;
     QLineEdit* Kalan;
+    QLineEdit* GelenTop1;
+    QLineEdit* CikanTop1;
+    QLineEdit* KalanTop1;
     QLabel* TopEleGecen;
     QLineEdit* Text1;
     QLineEdit* Text2;

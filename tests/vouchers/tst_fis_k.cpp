@@ -583,23 +583,6 @@ private slots:
         QVERIFY(kontrol<QComboBox>("Detay3")->findText(QStringLiteral("Zımba")) >= 0);
     }
 
-    void henuzHazirDegil()
-    {
-        ac();
-        izgara()->HucreYaz(1, 3, QStringLiteral("KALIR"));
-        hucreyeGit(1, 3);
-        {
-            ModalYanit tamam(QStringLiteral("Tamam"));
-            tus(Qt::Key_F10);
-            QCOMPARE(tamam.Metin(), QStringLiteral("Bu bölüm henüz hazır değil."));
-        }
-        etkinlestir();
-        ModalYanit tamam(QStringLiteral("Tamam"));
-        kontrol<QPushButton>("Liste")->click();
-        QCOMPARE(tamam.Metin(), QStringLiteral("Bu bölüm henüz hazır değil."));
-        QCOMPARE(hucre(1, 3), QStringLiteral("KALIR"));
-    }
-
     void araToplamlar()
     {
         kayitliFis();

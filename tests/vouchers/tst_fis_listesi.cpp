@@ -22,6 +22,8 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 class TstFisListesi : public QObject
 {
     Q_OBJECT
@@ -30,7 +32,7 @@ class TstFisListesi : public QObject
     QPointer<FIS_L> m_liste;
 
     QString klasor() const { return m_tmp->path(); }
-    CalismaBaglami baglam() const { return {QStringLiteral("2026"), QStringLiteral("3"), QString(), klasor()}; }
+    CalismaBaglami baglam() const { return {u"2026"_s, u"3"_s, QString(), klasor()}; }
 
     QStringList numaralar(const FisListesi::Suzgec& s)
     {
@@ -44,7 +46,7 @@ class TstFisListesi : public QObject
 
     void ac()
     {
-        m_liste = new FIS_L(baglam(), QStringLiteral("G"));
+        m_liste = new FIS_L(baglam(), u"G"_s);
         m_liste->show();
         Etkinlestir(m_liste);
     }
@@ -102,54 +104,37 @@ private slots:
     // every filter before it; the dates frame what is left.
     void sorgu_data()
     {
-        QTest::addColumn<QString>("fisNo");
-        QTest::addColumn<QString>("teslim");
-        QTest::addColumn<QString>("ozellik");
-        QTest::addColumn<QString>("belge");
-        QTest::addColumn<QString>("nereden");
+        // Fiş no, teslim alan, özellik, belge sayı, nereden geldiği.
+        QTest::addColumn<QStringList>("metinler");
         QTest::addColumn<QDate>("bas");
         QTest::addColumn<QDate>("bit");
         QTest::addColumn<QStringList>("beklenen");
         const QDate yok;
-        QTest::newRow("boş: türün tümü, azalan") << "" << "" << "" << "" << "" << yok << yok
-                                                 << QStringList{"6", "5", "3", "2", "1"};
-        QTest::newRow("numaradan başlar") << "3abc" << "" << "" << "" << "" << yok << yok
+        const QStringList bos(5);
+        QTest::newRow("boş: türün tümü, azalan") << bos << yok << yok << QStringList{"6", "5", "3", "2", "1"};
+        QTest::newRow("numaradan başlar") << QStringList{"3abc", "", "", "", ""} << yok << yok
                                           << QStringList{"6", "5", "3"};
-        QTest::newRow("teslim alan numarayı düşürür") << "3" << "MEH" << "" << "" << "" << yok << yok
+        QTest::newRow("teslim alan numarayı düşürür") << QStringList{"3", "MEH", "", "", ""} << yok << yok
                                                       << QStringList{"3", "1"};
-        QTest::newRow("özellik teslim alanı değiştirir") << "" << "Ayşe" << "mavi" << "" << "" << yok << yok
+        QTest::newRow("özellik teslim alanı değiştirir") << QStringList{"", "Ayşe", "mavi", "", ""} << yok << yok
                                                          << QStringList{"3", "1"};
-        QTest::newRow("belge sayı özelliği değiştirir") << "" << "" << "mavi" << "C-" << "" << yok << yok
+        QTest::newRow("belge sayı özelliği değiştirir") << QStringList{"", "", "mavi", "C-", ""} << yok << yok
                                                         << QStringList{"6", "5"};
-        QTest::newRow("nereden geldiği en son") << "" << "Ayşe" << "mavi" << "B" << "I" << yok << yok
+        QTest::newRow("nereden geldiği en son") << QStringList{"", "Ayşe", "mavi", "B", "I"} << yok << yok
                                                 << QStringList{"5"};
-        QTest::newRow("joker yazılan gibi") << "" << "%Kaya" << "" << "" << "" << yok << yok << QStringList{"1"};
-        QTest::newRow("başlama tarihi") << "" << "" << "" << "" << "" << QDate(2026, 2, 10) << yok
-                                        << QStringList{"5", "3", "2"};
-        QTest::newRow("tarih aralığı") << "" << "" << "" << "" << "" << QDate(2026, 1, 6) << QDate(2026, 3, 1)
-                                       << QStringList{"3", "2"};
-        QTest::newRow("süzgeç ve tarih") << "" << "" << "mavi" << "" << "" << QDate(2026, 2, 1) << yok
+        QTest::newRow("joker yazılan gibi") << QStringList{"", "%Kaya", "", "", ""} << yok << yok << QStringList{"1"};
+        QTest::newRow("başlama tarihi") << bos << QDate(2026, 2, 10) << yok << QStringList{"5", "3", "2"};
+        QTest::newRow("tarih aralığı") << bos << QDate(2026, 1, 6) << QDate(2026, 3, 1) << QStringList{"3", "2"};
+        QTest::newRow("süzgeç ve tarih") << QStringList{"", "", "mavi", "", ""} << QDate(2026, 2, 1) << yok
                                          << QStringList{"3"};
     }
     void sorgu()
     {
-        QFETCH(QString, fisNo);
-        QFETCH(QString, teslim);
-        QFETCH(QString, ozellik);
-        QFETCH(QString, belge);
-        QFETCH(QString, nereden);
+        QFETCH(QStringList, metinler);
         QFETCH(QDate, bas);
         QFETCH(QDate, bit);
         QFETCH(QStringList, beklenen);
-        FisListesi::Suzgec s;
-        s.FisNo = fisNo;
-        s.TeslimAlan = teslim;
-        s.Ozellik = ozellik;
-        s.BelgeSayi = belge;
-        s.NeredenGeldigi = nereden;
-        s.Tarih = bas;
-        s.Tarih1 = bit;
-        s.FCins1 = QStringLiteral("G");
+        FisListesi::Suzgec s{metinler[0], metinler[1], metinler[2], metinler[3], metinler[4], bas, bit, u"G"_s};
         QCOMPARE(numaralar(s), beklenen);
     }
 
@@ -171,7 +156,7 @@ private slots:
         QFETCH(bool, artan);
         QFETCH(QStringList, beklenen);
         FisListesi::Suzgec s;
-        s.FCins1 = QStringLiteral("G");
+        s.FCins1 = u"G"_s;
         s.SiraSutunu = FisListesi::SiraSutunu(secenek, s.SiraSutunu);
         s.Artan = artan;
         QCOMPARE(numaralar(s), beklenen);
@@ -183,11 +168,11 @@ private slots:
     {
         ac();
         QVERIFY(kontrol<TarihSecici>("Tarih")->Bos());
-        QCOMPARE(kontrol<TarihSecici>("Tarih1")->Metin(), QStringLiteral("31.12.2026"));
+        QCOMPARE(kontrol<TarihSecici>("Tarih1")->Metin(), u"31.12.2026"_s);
         QCOMPARE(gorunen(), (QStringList{"5", "3", "2", "1"}));
-        QTest::keyClicks(kontrol("FisNo"), QStringLiteral("3"));
+        QTest::keyClicks(kontrol("FisNo"), u"3"_s);
         QCOMPARE(gorunen(), (QStringList{"5", "3"}));
-        TurkceYaz(kontrol("TeslimAlan"), QStringLiteral("Ayşe"));
+        TurkceYaz(kontrol("TeslimAlan"), u"Ayşe"_s);
         QCOMPARE(gorunen(), (QStringList{"2"}));
         kontrol("TeslimAlan")->clear();
         kontrol("FisNo")->clear();
@@ -241,15 +226,15 @@ private slots:
         ac();
         BellekCikti cikti;
         m_liste->CiktiSec(&cikti);
-        QTest::keyClicks(kontrol("FisNo"), QStringLiteral("3"));
+        QTest::keyClicks(kontrol("FisNo"), u"3"_s);
         kontrol<QPushButton>("Command12")->click();
         QCOMPARE(cikti.belgeler.size(), 1);
         const Sayfa& s = cikti.belgeler[0].value(0);
-        QCOMPARE(s.MetinNerede(10 * MmTwip, 5 * MmTwip), QStringLiteral("  Fiş Listesi    "));
+        QCOMPARE(s.MetinNerede(10 * MmTwip, 5 * MmTwip), u"  Fiş Listesi    "_s);
         QVERIFY(s.YaziNerede(5 * MmTwip, 15 * MmTwip)->kalin);
-        QCOMPARE(s.MetinNerede(5 * MmTwip, 15 * MmTwip), QStringLiteral("FişNo"));
-        QCOMPARE(s.MetinNerede(5 * MmTwip, 20 * MmTwip), QStringLiteral("5"));
-        QCOMPARE(s.MetinNerede(5 * MmTwip + 700, 25 * MmTwip), QStringLiteral("01.03.2026"));
+        QCOMPARE(s.MetinNerede(5 * MmTwip, 15 * MmTwip), u"FişNo"_s);
+        QCOMPARE(s.MetinNerede(5 * MmTwip, 20 * MmTwip), u"5"_s);
+        QCOMPARE(s.MetinNerede(5 * MmTwip + 700, 25 * MmTwip), u"01.03.2026"_s);
         // The kind column is hidden and prints nothing; no voucher here has a
         // document date.
         QCOMPARE(s.yazilar.size(), 1 + 7 + 2 * 6);
@@ -260,12 +245,8 @@ private slots:
     void fisEkranindanSecim()
     {
         FisEkrani f;
-        f.FisNo = QStringLiteral("7");
-        f.Tarih = QStringLiteral("12.03.2026");
-        f.FCins = f.Hangi = QStringLiteral("G");
-        f.CalisYil = QStringLiteral("2026");
-        f.CalisAy = QStringLiteral("3");
-        f.TeslimAlan = QStringLiteral("Zeki Demir");
+        f.FisNo = u"7"_s, f.Tarih = u"12.03.2026"_s, f.FCins = f.Hangi = u"G"_s;
+        f.CalisYil = u"2026"_s, f.CalisAy = u"3"_s, f.TeslimAlan = u"Zeki Demir"_s;
         f.Satirlar = {{"", "150 01 01 001", "A4 Kağıt", "BEYAZ", "PAKET", "10", "5", "", "", "1", "", "", "", "18",
                        "", "", ""}};
         QCOMPARE(FisKayit::Kaydet(klasor(), f, [] { return true; }), KayitSonucu::Kaydedildi);
@@ -274,20 +255,20 @@ private slots:
         fis->KipAyarla({{"FCins", "G"}, {"Hangi", "G"}});
         fis->show();
         Etkinlestir(fis.get());
-        auto* liste = fis->findChild<QPushButton*>(QStringLiteral("Liste"));
+        auto* liste = fis->findChild<QPushButton*>(u"Liste"_s);
         liste->click();
         liste->click();
         QCOMPARE(fis->findChildren<FIS_L*>().size(), 1);
         m_liste = fis->findChild<FIS_L*>();
         QVERIFY(m_liste->isVisible());
-        QCOMPARE(izgara()->TextMatrix(1, 0), QStringLiteral("7"));
+        QCOMPARE(izgara()->TextMatrix(1, 0), u"7"_s);
         ciftTikla(izgara(), 1);
         QTRY_VERIFY(!m_liste);
-        QCOMPARE(fis->findChild<QLineEdit*>(QStringLiteral("FisNo"))->text(), QStringLiteral("7"));
-        QCOMPARE(fis->findChild<QLineEdit*>(QStringLiteral("Tarih"))->text(), QStringLiteral("12.03.2026"));
-        auto* satirlar = fis->findChild<FisIzgarasi*>(QStringLiteral("T"));
-        QCOMPARE(satirlar->TextMatrix(1, 3), QStringLiteral("BEYAZ"));
-        QVERIFY(!fis->findChild<QLineEdit*>(QStringLiteral("Text3"))->text().isEmpty());
+        QCOMPARE(fis->findChild<QLineEdit*>(u"FisNo"_s)->text(), u"7"_s);
+        QCOMPARE(fis->findChild<QLineEdit*>(u"Tarih"_s)->text(), u"12.03.2026"_s);
+        auto* satirlar = fis->findChild<FisIzgarasi*>(u"T"_s);
+        QCOMPARE(satirlar->TextMatrix(1, 3), u"BEYAZ"_s);
+        QVERIFY(!fis->findChild<QLineEdit*>(u"Text3"_s)->text().isEmpty());
     }
 };
 

@@ -38,14 +38,8 @@ QStringList satir(const QString& kod, const QString& ad, const QString& miktar, 
                   const QString& cikan = QString())
 {
     QStringList s(FisEkrani::SutunSayisi);
-    s[1] = kod;
-    s[3] = ad;
-    s[4] = u"ADET"_s;
-    s[5] = miktar;
-    s[6] = fiyat;
-    s[7] = u"12.03.2026"_s;
-    s[10] = cikan;
-    s[11] = u"Mehmet Öztürk"_s;
+    s[1] = kod, s[3] = ad, s[4] = u"ADET"_s, s[5] = miktar, s[6] = fiyat;
+    s[7] = u"12.03.2026"_s, s[10] = cikan, s[11] = u"Mehmet Öztürk"_s;
     return s;
 }
 
@@ -53,22 +47,20 @@ FisYazimi yazim(const QString& cins, const QList<QStringList>& satirlar)
 {
     FisYazimi y;
     FisEkrani& f = y.fis;
-    f.FisNo = u"7"_s;
-    f.Tarih = u"15.03.2026"_s;
-    f.FCins = f.Hangi = cins;
-    f.KabulTarih = u"14.03.2026"_s;
-    f.KabulSayi = u"2026/37"_s;
-    f.BelgeSayi = u"Fatura 4471"_s;
-    f.NeredenGeldigi = u"Yıldız Kırtasiye Ltd. Şti. Ankara"_s;
-    f.TeslimAlan = u"Ayşe Yılmaz"_s;
+    f.FisNo = u"7"_s, f.Tarih = u"15.03.2026"_s, f.FCins = f.Hangi = cins;
+    f.KabulTarih = u"14.03.2026"_s, f.KabulSayi = u"2026/37"_s, f.BelgeSayi = u"Fatura 4471"_s;
+    f.NeredenGeldigi = u"Yıldız Kırtasiye Ltd. Şti. Ankara"_s, f.TeslimAlan = u"Ayşe Yılmaz"_s;
     f.Satirlar = satirlar;
     y.IslemAd = cins == u"G" ? u"DevirYoluylaAlma"_s : u"Devretme/Bağışlama"_s;
-    y.UniteAd2 = u"Müdür Yardımcılığı Odası"_s;
-    y.HarfYazma = u"BinİkiYüzOtuzDört Lira Elli kuruş"_s;
-    y.Text2 = u"12,5"_s;
-    y.Text3 = u"1234,5"_s;
-    y.KDVTOP = u"222,21"_s;
+    y.UniteAd2 = u"Müdür Yardımcılığı Odası"_s, y.HarfYazma = u"BinİkiYüzOtuzDört Lira Elli kuruş"_s;
+    y.Text2 = u"12,5"_s, y.Text3 = u"1234,5"_s, y.KDVTOP = u"222,21"_s;
     return y;
+}
+
+// One line of paper, the voucher most cases print.
+FisYazimi kagit(const QString& cins = u"G"_s, const QString& cikan = QString())
+{
+    return yazim(cins, {satir(u"150 01 01 001"_s, u"Kağıt"_s, u"4"_s, u"12.5"_s, cikan)});
 }
 
 // As long as real values come, and as wide.
@@ -79,9 +71,7 @@ FisYazimi dolu(const QString& cins, int sayi)
         satirlar.append(satir(i % 2 ? u"255 01 02 001"_s : u"150 01 01 001"_s, u"Masaüstü Bilgisayar İ7 16 GB"_s,
                               u"1250"_s, u"12345,5"_s, cins == u"C" ? u"1250"_s : QString()));
     FisYazimi y = yazim(cins, satirlar);
-    y.fis.FisNo = u"1234"_s;
-    y.Text3 = u"154318750"_s;
-    y.KDVTOP = u"27777375"_s;
+    y.fis.FisNo = u"1234"_s, y.Text3 = u"154318750"_s, y.KDVTOP = u"27777375"_s;
     return y;
 }
 
@@ -92,11 +82,7 @@ QStringList yazilari(const QList<SayfaYazisi>& yazilar)
         sonuc.append(u"%1,%2 %3 %4%5"_s.arg(y.x).arg(y.y).arg(y.punto).arg(y.kalin ? u"b "_s : u""_s, y.metin));
     return sonuc;
 }
-
-QStringList yazilari(const Sayfa& s)
-{
-    return yazilari(s.yazilar);
-}
+QStringList yazilari(const Sayfa& s) { return yazilari(s.yazilar); }
 
 }
 
@@ -166,7 +152,7 @@ private slots:
         QFETCH(double, y);
         QFETCH(QString, beklenen);
         QFETCH(double, punto);
-        const Sayfa s = FisSayfasi(yazim(u"G"_s, {satir(u"150 01 01 001"_s, u"Kağıt"_s, u"4"_s, u"12.5"_s)}), sabit());
+        const Sayfa s = FisSayfasi(kagit(), sabit());
         const SayfaYazisi* yazi = s.YaziNerede(x, y);
         QVERIFY(yazi);
         QCOMPARE(yazi->metin, beklenen);
@@ -282,7 +268,7 @@ private slots:
         QFETCH(QString, kdv);
         QFETCH(QString, kdvSatiri);
         QFETCH(QString, genelToplam);
-        const FisYazimi y = yazim(u"G"_s, {satir(u"150 01 01 001"_s, u"Kağıt"_s, u"4"_s, u"12.5"_s)});
+        const FisYazimi y = kagit();
         Sayfa s = FisSayfasi(y, sabit());
         const qsizetype once = s.yazilar.size();
         // A second press replaces what the first one put there.

@@ -19,6 +19,8 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 class TstMalzemeListesi : public QObject
 {
     Q_OBJECT
@@ -33,7 +35,7 @@ class TstMalzemeListesi : public QObject
         int FisNo;
         QString HesapKod, Ozellik, Miktar, Cikan;
         QVariant FCinss = QString();
-        QString Unite = QString(), KimeVerildigi = QString(), Tarih = QStringLiteral("10.03.2026");
+        QString Unite = QString(), KimeVerildigi = QString(), Tarih = u"10.03.2026"_s;
     };
     void yaz(const QList<Satir>& satirlar)
     {
@@ -52,6 +54,22 @@ class TstMalzemeListesi : public QObject
         k.Tarih1 = QDate(2026, 12, 31);
         return k;
     }
+    // A voucher screen with the cell the list is asked from, and the list.
+    Malzeme_L* listeAc(const QVariantMap& kip, int sutun, const QString& kod = QString())
+    {
+        m_fis = new FIS_K({u"2026"_s, u"3"_s, u"Okul"_s, klasor()});
+        if (!kip.isEmpty())
+            m_fis->KipAyarla(kip);
+        m_fis->show();
+        Etkinlestir(m_fis);
+        izgara()->setFocus();
+        izgara()->HucreSec(1, sutun);
+        if (!kod.isNull())
+            m_fis->findChild<QComboBox*>(u"HesKod"_s)->setEditText(kod);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F10);
+        return m_fis->findChild<Malzeme_L*>();
+    }
+    FisIzgarasi* izgara() const { return m_fis->findChild<FisIzgarasi*>(u"T"_s); }
     // The voucher numbers the list gives, in its order.
     QList<int> fisler(const MalzemeListesi::Kosullar& k)
     {
@@ -80,7 +98,7 @@ private slots:
     {
         yaz({{1, "150", "A", "1", "0", "", "3"}, {2, "150", "A", "1", "0", "", "3%"}, {3, "150", "A", "1", "0", "", "35"}});
         auto k = kosullar();
-        k.Unite = QStringLiteral("3");
+        k.Unite = u"3"_s;
         QCOMPARE(fisler(k), QList<int>{2});
     }
 
@@ -174,9 +192,9 @@ private slots:
     void aciklamaToplamlari()
     {
         yaz({{1, "150", "KALEM", "10", ""}, {2, "150", "KALEM", "2.5", "1"}, {3, "150", "SİLGİ", "7", "0"}});
-        QCOMPARE(MalzemeListesi::Toplamlar(klasor(), QStringLiteral("KALEM")),
+        QCOMPARE(MalzemeListesi::Toplamlar(klasor(), u"KALEM"_s),
                  (QStringList{" Gelen :", "12,5", "   Çıkan :", "1", "   Kalan :", "11,5"}));
-        QCOMPARE(MalzemeListesi::Toplamlar(klasor(), QStringLiteral("YOK")).value(1), QString());
+        QCOMPARE(MalzemeListesi::Toplamlar(klasor(), u"YOK"_s).value(1), QString());
     }
 
     void tembelListe()
@@ -185,8 +203,8 @@ private slots:
             Veritabani vt(klasor(), Dosya::Ayniyat);
             Islem islem(vt);
             for (int i = 1; i <= 1000; ++i)
-                vt.Hazir(QStringLiteral("insert into FIS (FisNo, Ozellik) values (?, ?)"))
-                    .Calistir({i, QStringLiteral("Ö%1").arg(i)});
+                vt.Hazir(u"insert into FIS (FisNo, Ozellik) values (?, ?)"_s)
+                    .Calistir({i, u"Ö%1"_s.arg(i)});
             islem.Onayla();
         }
         ListeIzgarasi liste;
@@ -195,22 +213,22 @@ private slots:
         liste.show();
         {
             Veritabani vt(klasor(), Dosya::Ayniyat);
-            liste.Doldur(vt, QStringLiteral("select FisNo, Ozellik from FIS where FisNo > ? order by FisNo"), {0});
+            liste.Doldur(vt, u"select FisNo, Ozellik from FIS where FisNo > ? order by FisNo"_s, {0});
         }
         QCoreApplication::processEvents();
         QCOMPARE(liste.Okunan(), ListeIzgarasi::Blok);
         liste.verticalScrollBar()->setValue(liste.verticalScrollBar()->maximum());
         QCOMPARE(liste.Okunan(), 2 * ListeIzgarasi::Blok);
         QCOMPARE(liste.Rows(), 1001);
-        QCOMPARE(liste.TextMatrix(600, 1), QStringLiteral("Ö600"));
+        QCOMPARE(liste.TextMatrix(600, 1), u"Ö600"_s);
         const Izgara anlik = liste.Anlik();
         QCOMPARE(anlik.Rows(), 1001);
-        QCOMPARE(anlik.TextMatrix(1000, 0), QStringLiteral("1000"));
+        QCOMPARE(anlik.TextMatrix(1000, 0), u"1000"_s);
         QCOMPARE(liste.Okunan(), 1000);
         // All read: the file is free for a writer again.
         Veritabani vt(klasor(), Dosya::Ayniyat);
         Islem yaz(vt);
-        vt.Calistir(QStringLiteral("delete from FIS"));
+        vt.Calistir(u"delete from FIS"_s);
         yaz.Onayla();
         QCOMPARE(liste.Rows(), 1001);
     }
@@ -220,58 +238,41 @@ private slots:
         yaz({{7, "150 01 01 001", "MAVİ KALEM", "10", "4"}, {8, "255 01 01 001", "MASA", "1", "0"}});
         {
             Veritabani vt(klasor(), Dosya::Genel);
-            vt.Calistir(QStringLiteral("insert into URUN_K (HesapKod, MalzAdi, Birimi, KDV1) values (?, ?, ?, ?)"),
+            vt.Calistir(u"insert into URUN_K (HesapKod, MalzAdi, Birimi, KDV1) values (?, ?, ?, ?)"_s,
                         {"150 01 01 001", "Kalem", "ADET", "18"});
         }
-        m_fis = new FIS_K({QStringLiteral("2026"), QStringLiteral("3"), QStringLiteral("Okul"), klasor()});
-        m_fis->KipAyarla({{"FCins", "C"}, {"Hangi", "C"}});
-        m_fis->show();
-        Etkinlestir(m_fis);
-        auto* t = m_fis->findChild<FisIzgarasi*>(QStringLiteral("T"));
-        t->setFocus();
-        t->HucreSec(1, 1);
-        m_fis->findChild<QComboBox*>(QStringLiteral("HesKod"))->setEditText(QStringLiteral("150"));
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F10);
-
-        auto* liste = m_fis->findChild<Malzeme_L*>();
+        auto* liste = listeAc({{"FCins", "C"}, {"Hangi", "C"}}, 1, u"150"_s);
         QVERIFY(liste);
-        QCOMPARE(liste->Hangi, QStringLiteral("Fis_K"));
-        QCOMPARE(liste->HesapKod->text(), QStringLiteral("150"));
+        QCOMPARE(liste->Hangi, u"Fis_K"_s);
+        QCOMPARE(liste->HesapKod->text(), u"150"_s);
         QVERIFY(QTest::qWaitForWindowActive(liste));
         QTRY_COMPARE(liste->T->Rows(), 2);
         QCOMPARE(QApplication::focusWidget(), liste->T);
         QCOMPARE(liste->T->Row(), 1);
-        QTRY_COMPARE(liste->T->TextMatrix(1, 0), QStringLiteral("Kalem"));
+        QTRY_COMPARE(liste->T->TextMatrix(1, 0), u"Kalem"_s);
         QTest::keyClick(liste->T, Qt::Key_Return);
 
         QTRY_VERIFY(!m_fis->findChild<Malzeme_L*>());
         const QList<std::pair<int, QString>> beklenen{{1, "150 01 01 001"}, {2, "Kalem"}, {3, "MAVİ KALEM"},
                                                       {4, "ADET"},          {6, "12,5"},  {13, "18"}};
         for (const auto& [sutun, metin] : beklenen)
-            QCOMPARE(t->TextMatrix(1, sutun), metin);
-        QCOMPARE(t->Col(), 5);
-        QCOMPARE(m_fis->findChild<QLineEdit*>(QStringLiteral("KalanTop1"))->text(), QStringLiteral("6"));
-        QVERIFY(m_fis->findChild<QLineEdit*>(QStringLiteral("KalanTop1"))->isVisibleTo(m_fis));
+            QCOMPARE(izgara()->TextMatrix(1, sutun), metin);
+        QCOMPARE(izgara()->Col(), 5);
+        QCOMPARE(m_fis->findChild<QLineEdit*>(u"KalanTop1"_s)->text(), u"6"_s);
+        QVERIFY(m_fis->findChild<QLineEdit*>(u"KalanTop1"_s)->isVisibleTo(m_fis));
     }
 
     void bosListedeCiftTiklama()
     {
-        m_fis = new FIS_K({QStringLiteral("2026"), QStringLiteral("3"), QStringLiteral("Okul"), klasor()});
-        m_fis->show();
-        Etkinlestir(m_fis);
-        auto* t = m_fis->findChild<FisIzgarasi*>(QStringLiteral("T"));
-        t->setFocus();
-        t->HucreSec(1, 3);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F10);
-        auto* liste = m_fis->findChild<Malzeme_L*>();
+        auto* liste = listeAc({}, 3);
         QVERIFY(liste);
         QVERIFY(liste->Option3->isChecked());
         QVERIFY(QTest::qWaitForWindowActive(liste));
         QCOMPARE(liste->T->Rows(), 1);
         QTest::mouseDClick(liste->T->viewport(), Qt::LeftButton, {}, QPoint(20, 10));
         QVERIFY(m_fis->findChild<Malzeme_L*>());
-        QCOMPARE(t->Col(), 3);
-        QVERIFY(!m_fis->findChild<QLineEdit*>(QStringLiteral("GelenTop1"))->isVisibleTo(m_fis));
+        QCOMPARE(izgara()->Col(), 3);
+        QVERIFY(!m_fis->findChild<QLineEdit*>(u"GelenTop1"_s)->isVisibleTo(m_fis));
     }
 };
 

@@ -40,13 +40,9 @@ QStringList satir(const QString& kod, const QString& ad, const QString& miktar, 
 FisYazimi yazim(const QString& cins, const QList<QStringList>& satirlar)
 {
     FisYazimi y;
-    y.fis.FisNo = u"7"_s;
-    y.fis.Tarih = u"10.03.2026"_s;
-    y.fis.FCins = y.fis.Hangi = cins;
-    y.fis.TeslimAlan = u"Abdurrahman Şerefeddin Karagözoğlu"_s;
-    y.fis.Satirlar = satirlar;
-    y.UniteAd2 = u"Bilgi İşlem"_s;
-    y.Text2 = u"12,5"_s;
+    y.fis.FisNo = u"7"_s, y.fis.Tarih = u"10.03.2026"_s, y.fis.FCins = y.fis.Hangi = cins;
+    y.fis.TeslimAlan = u"Abdurrahman Şerefeddin Karagözoğlu"_s, y.fis.Satirlar = satirlar;
+    y.UniteAd2 = u"Bilgi İşlem"_s, y.Text2 = u"12,5"_s;
     return y;
 }
 
@@ -59,8 +55,7 @@ FisYazimi dolu()
                               u"Masaüstü Bilgisayar Intel Core i7 16 GB"_s, u"1250"_s, u"12345.75"_s, u"KİLOGRAM"_s,
                               u"Hasan Hüseyin Karagöz"_s));
     FisYazimi y = yazim(u"G"_s, satirlar);
-    y.UniteAd2 = u"Bilgi İşlem Dairesi Başkanlığı"_s;
-    y.Text2 = u"308643,75"_s;
+    y.UniteAd2 = u"Bilgi İşlem Dairesi Başkanlığı"_s, y.Text2 = u"308643,75"_s;
     return y;
 }
 

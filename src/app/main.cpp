@@ -22,9 +22,14 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QFile>
 #include <QMessageBox>
 
 #include <cstdio>
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
 
 namespace {
 
@@ -180,10 +185,20 @@ int pencereli(const QString& klasor)
 
 int main(int argc, char* argv[])
 {
-    // Without a display the commands still print: Qt draws offscreen.
+    // Without a display the commands still print: Qt draws offscreen, with a
+    // private runtime folder of its own where the session gives none.
     if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
-        && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
+#ifdef Q_OS_UNIX
+        if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) {
+            const QString yer = QDir::temp().filePath(QStringLiteral("tasinir-runtime-%1").arg(getuid()));
+            QDir().mkpath(yer);
+            QFile::setPermissions(yer, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+            qputenv("XDG_RUNTIME_DIR", yer.toLocal8Bit());
+        }
+#endif
+    }
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tasinir"));
     QApplication::setApplicationDisplayName(QStringLiteral("Taşınır Mal Yönetimi"));

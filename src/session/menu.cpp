@@ -181,6 +181,8 @@ Menu::Menu(const QString& klasor, QWidget* ebeveyn)
     setCentralWidget(merkez);
 
     MenuCubugunuKur();
+    // Wide enough for the whole menu bar at once.
+    resize(qMax(sizeHint().width(), menuBar()->sizeHint().width()), sizeHint().height());
     for (const auto& [dugme, hedef] : std::as_const(m_dugmeler))
         if (hedef.form.startsWith(u'@'))
             connect(dugme, &QPushButton::clicked, this, [this, dugme, ad = hedef.form.mid(1)] {

@@ -77,8 +77,6 @@ HESAP_K::HESAP_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(bag
     T->Genislikler({1600, 8000});
     HesapKod1 = Adli(new QLineEdit(this), "HesapKod1");
     HesapAd1 = Adli(new QLineEdit(this), "HesapAd1");
-    HesapKod1->setFixedWidth(T->columnWidth(0));
-    HesapAd1->setFixedWidth(T->columnWidth(1));
     // One order is always chosen: without one the list query has no column.
     Op1 = Adli(new QRadioButton(QStringLiteral("Hesap Kod"), this), "Op1");
     Op2 = Adli(new QRadioButton(QStringLiteral("Hesap Adı"), this), "Op2");
@@ -86,16 +84,7 @@ HESAP_K::HESAP_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(bag
     auto* siralar = new QButtonGroup(this);
     siralar->addButton(Op1);
     siralar->addButton(Op2);
-    auto* suzgecler = new QHBoxLayout;
-    suzgecler->setSpacing(0);
-    suzgecler->addWidget(HesapKod1);
-    suzgecler->addWidget(HesapAd1);
-    suzgecler->addSpacing(harf * 2);
-    suzgecler->addWidget(Op1);
-    suzgecler->addWidget(Op2);
-    suzgecler->addStretch();
-    ana->addLayout(suzgecler);
-    T->setMinimumSize(T->columnWidth(0) + T->columnWidth(1) + T->frameWidth() * 2 + harf * 3, 280);
+    ana->addLayout(SuzgecSatiri(T, {HesapKod1, HesapAd1}, {Op1, Op2}));
     ana->addWidget(T, 1);
 
     OpDik = Adli(new QRadioButton(QStringLiteral("Dikey"), this), "OpDik");
@@ -119,10 +108,7 @@ HESAP_K::HESAP_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(bag
     DurumSatiriEkle(ana);
     // The status panel shows from a save until the mouse passes over the
     // screen, the card or the list.
-    QSizePolicy durumBoyu = DurumSatiri()->sizePolicy();
-    durumBoyu.setRetainSizeWhenHidden(true);
-    DurumSatiri()->setSizePolicy(durumBoyu);
-    DurumSatiri()->hide();
+    DurumSatiriniGizle();
     for (QWidget* w : {static_cast<QWidget*>(this), static_cast<QWidget*>(Frame1), T->viewport()}) {
         w->setMouseTracking(true);
         w->installEventFilter(this);

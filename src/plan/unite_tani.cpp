@@ -73,29 +73,15 @@ Unite_TANI::Unite_TANI(const CalismaBaglami& baglam, QWidget* parent) : KartEkra
     T->Genislikler(UniteTanim::Genislikler());
     UniteKod1 = Adli(new QLineEdit(this), "UniteKod1");
     UniteAd1 = Adli(new QLineEdit(this), "UniteAd1");
-    UniteKod1->setFixedWidth(T->columnWidth(0));
-    UniteAd1->setFixedWidth(T->columnWidth(1));
     Op1 = Adli(new QRadioButton(QStringLiteral("Ünite Kod"), this), "Op1");
     Op2 = Adli(new QRadioButton(QStringLiteral("Ünite Adı"), this), "Op2");
     Op1->setChecked(true);
-    auto* suzgecler = new QHBoxLayout;
-    suzgecler->setSpacing(0);
-    suzgecler->addWidget(UniteKod1);
-    suzgecler->addWidget(UniteAd1);
-    suzgecler->addSpacing(harf * 2);
-    suzgecler->addWidget(Op1);
-    suzgecler->addWidget(Op2);
-    suzgecler->addStretch();
-    ana->addLayout(suzgecler);
-    T->setMinimumSize(T->columnWidth(0) + T->columnWidth(1) + T->frameWidth() * 2 + harf * 3, 280);
+    ana->addLayout(SuzgecSatiri(T, {UniteKod1, UniteAd1}, {Op1, Op2}));
     ana->addWidget(T, 1);
 
     DurumSatiriEkle(ana);
     // The status panel shows from a save until the mouse passes over the list.
-    QSizePolicy durumBoyu = DurumSatiri()->sizePolicy();
-    durumBoyu.setRetainSizeWhenHidden(true);
-    DurumSatiri()->setSizePolicy(durumBoyu);
-    DurumSatiri()->hide();
+    DurumSatiriniGizle();
     T->viewport()->setMouseTracking(true);
     T->viewport()->installEventFilter(this);
 

@@ -25,6 +25,14 @@ void KartEkrani::DurumSatiriEkle(QBoxLayout* yerlesim)
     yerlesim->addWidget(m_durum);
 }
 
+void KartEkrani::DurumSatiriniGizle()
+{
+    QSizePolicy boyut = m_durum->sizePolicy();
+    boyut.setRetainSizeWhenHidden(true);
+    m_durum->setSizePolicy(boyut);
+    m_durum->hide();
+}
+
 void KartEkrani::Durum(const QString& metin)
 {
     m_durum->setText(metin);

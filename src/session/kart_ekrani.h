@@ -33,6 +33,9 @@ protected:
     CalismaBaglami& BaglamDegistir() { return m_baglam; }
 
     void Durum(const QString& metin);
+    // Hides the status line until the next Durum, keeping its room so that
+    // the screen does not jump.
+    void DurumSatiriniGizle();
     // Binds a key (with modifiers) to an action for the whole screen.
     void TusTanimla(QKeySequence tus, std::function<void()> is);
     // Yes/No with Turkish buttons; true on Yes.

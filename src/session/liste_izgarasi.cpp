@@ -3,7 +3,10 @@
 #include "veritabani.h"
 
 #include <QAbstractTableModel>
+#include <QBoxLayout>
 #include <QHeaderView>
+#include <QLineEdit>
+#include <QRadioButton>
 #include <QKeyEvent>
 #include <QSqlRecord>
 
@@ -289,3 +292,24 @@ void ListeIzgarasi::keyPressEvent(QKeyEvent* olay)
     }
     QTableView::keyPressEvent(olay);
 }
+
+QHBoxLayout* SuzgecSatiri(ListeIzgarasi* liste, const QList<QLineEdit*>& suzgecler,
+                          const QList<QRadioButton*>& siralar)
+{
+    const int harf = liste->fontMetrics().averageCharWidth();
+    auto* satir = new QHBoxLayout;
+    satir->setSpacing(0);
+    int genislik = liste->frameWidth() * 2 + harf * 3;
+    for (int i = 0; i < suzgecler.size(); ++i) {
+        suzgecler[i]->setFixedWidth(liste->columnWidth(i));
+        genislik += liste->columnWidth(i);
+        satir->addWidget(suzgecler[i]);
+    }
+    satir->addSpacing(harf * 2);
+    for (QRadioButton* secenek : siralar)
+        satir->addWidget(secenek);
+    satir->addStretch();
+    liste->setMinimumSize(genislik, 280);
+    return satir;
+}
+

@@ -5,6 +5,9 @@
 #include <QTableView>
 
 class ListeModeli;
+class QHBoxLayout;
+class QLineEdit;
+class QRadioButton;
 class Veritabani;
 
 // A list grid with the manners of the old flex grid: row 0 is the heading,
@@ -64,3 +67,9 @@ private:
     QList<int> m_genislikler;
     void GenislikleriUygula();
 };
+
+// The filter row of a list: each filter box stands over the column it
+// narrows, with the same width, and the sort options follow. The list is
+// made at least wide enough for those columns.
+QHBoxLayout* SuzgecSatiri(ListeIzgarasi* liste, const QList<QLineEdit*>& suzgecler,
+                          const QList<QRadioButton*>& siralar);

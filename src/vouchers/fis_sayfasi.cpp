@@ -15,9 +15,7 @@ namespace {
 // Where the texts go, in twips from the origin of the printable area.
 constexpr double BlokSatiri = 220;  // rows of the signature block
 constexpr double BlokTabani = 12100;
-constexpr double SatirAdimi = 240;  // the voucher's lines
 constexpr double IlkSatirY = 4460;
-constexpr int SatirSayisi = 25;
 constexpr double BasSatiriY = 1700 + 5 * BlokSatiri;  // İşlem türü, nereden, kime, nereye
 constexpr double SutunX[] = {1, 350, 1600, 3660, 6620, 7260, 8540, 9250};
 constexpr double ToplamX = 8650;
@@ -54,14 +52,14 @@ bool Satirda(const FisEkrani& fis, int i)
 
 double SatirY(int i)
 {
-    return IlkSatirY + (i - 1) * SatirAdimi;
+    return IlkSatirY + (i - 1) * Ciz::SatirAdimi;
 }
 
 // The line under the last line with a code; line 1 when there is none.
 double ToplamY(const FisEkrani& fis)
 {
     int son = 0;
-    for (int i = 1; i <= SatirSayisi; ++i)
+    for (int i = 1; i <= Ciz::SatirSayisi; ++i)
         if (Satirda(fis, i))
             son = i;
     return SatirY(son + 1);
@@ -71,13 +69,13 @@ double ToplamY(const FisEkrani& fis)
 // The rule above the line of the voucher standing at y.
 double SatirCizgisi(double y)
 {
-    return Ciz::CizgiUstu(y, SatirAdimi, 9);
+    return Ciz::CizgiUstu(y, Ciz::SatirAdimi, 9);
 }
 
 // Under the totals of a voucher of 25 lines.
 double AltBolumUst()
 {
-    return SatirCizgisi(SatirY(SatirSayisi + 1)) + ToplamSatirlari * SatirAdimi;
+    return SatirCizgisi(SatirY(Ciz::SatirSayisi + 1)) + ToplamSatirlari * Ciz::SatirAdimi;
 }
 
 double BlokCizgisi(int satir)
@@ -188,17 +186,17 @@ void TabloCiz(Zemin& z, double toplamUst)
 {
     const QList<double> sutunlar(std::begin(TabloSutunlari), std::end(TabloSutunlari));
     const double govdeUst = SatirCizgisi(IlkSatirY);
-    const double govdeAlt = govdeUst + SatirSayisi * SatirAdimi;
+    const double govdeAlt = govdeUst + Ciz::SatirSayisi * Ciz::SatirAdimi;
     Ciz::Basliklar(z, sutunlar, TabloUst, govdeUst,
                    {QStringLiteral("Sıra No"), QStringLiteral("Taşınır Kodu"), QStringLiteral("Sicil No"),
                     QStringLiteral("Taşınırın Adı / Özelliği"), QStringLiteral("Ölçü Birimi"),
                     QStringLiteral("Miktarı"), QStringLiteral("Birim Fiyatı"), QStringLiteral("Tutarı")});
     Ciz::Kutu(z, Sol, govdeUst, Sag, AltBolumUst());
 
-    const double toplamAlt = toplamUst + ToplamSatirlari * SatirAdimi;
+    const double toplamAlt = toplamUst + ToplamSatirlari * Ciz::SatirAdimi;
     Ciz::Kutu(z, ToplamSol, toplamUst, Sag, toplamAlt);
     const Aralik toplam(toplamUst, toplamAlt);
-    const Aralik harf(SatirCizgisi(HarfYazmaY), SatirCizgisi(HarfYazmaY) + 2 * SatirAdimi);
+    const Aralik harf(SatirCizgisi(HarfYazmaY), SatirCizgisi(HarfYazmaY) + 2 * Ciz::SatirAdimi);
 
     for (qsizetype i = 1; i + 1 < sutunlar.size(); ++i) {
         const double x = sutunlar[i];
@@ -206,8 +204,8 @@ void TabloCiz(Zemin& z, double toplamUst)
         for (const Aralik& p : Parcalar(govdeUst, govdeAlt, bosluklar))
             Ciz::Dikey(z, x, p.first, p.second);
     }
-    for (int i = 1; i <= SatirSayisi; ++i) {
-        const double y = govdeUst + i * SatirAdimi;
+    for (int i = 1; i <= Ciz::SatirSayisi; ++i) {
+        const double y = govdeUst + i * Ciz::SatirAdimi;
         if (y > harf.first && y < harf.second)
             continue;
         const bool toplamda = y > toplam.first && y < toplam.second;
@@ -215,7 +213,7 @@ void TabloCiz(Zemin& z, double toplamUst)
             Ciz::Yatay(z, y, p.first, p.second);
     }
     Ciz::Kutu(z, Sol, govdeAlt, ToplamSol, AltBolumUst());
-    SolaEtiket(z, Alan(Sol, govdeAlt, ToplamSol, govdeAlt + SatirAdimi), QStringLiteral("Açıklama :"));
+    SolaEtiket(z, Alan(Sol, govdeAlt, ToplamSol, govdeAlt + Ciz::SatirAdimi), QStringLiteral("Açıklama :"));
 }
 
 void ImzaCiz(Zemin& z)
@@ -283,7 +281,7 @@ void SatirlariYaz(Sayfa& sayfa, const FisEkrani& fis)
 {
     for (int j = 0; j < 8; ++j) {
         const double x = SutunX[j];
-        for (int i = 1; i <= SatirSayisi; ++i) {
+        for (int i = 1; i <= Ciz::SatirSayisi; ++i) {
             if (!Satirda(fis, i))
                 continue;
             QString metin;
@@ -381,7 +379,7 @@ void FisKdvYaz(Sayfa& sayfa, const FisYazimi& yazim, const QString& kdvTutari)
     if (!kdv)
         throw Hata(QStringLiteral("KDV Tutarı bir sayı olmalı: ") + kdvTutari);
 
-    const double kdvY = ToplamY(yazim.fis) + SatirAdimi;
+    const double kdvY = ToplamY(yazim.fis) + Ciz::SatirAdimi;
     Ciz::Sil(sayfa, ToplamX, kdvY);
     QVariant yuvarlanmis = FisToplam::Yuvarla(*kdv, 2);
     Ciz::Yaz(sayfa, ToplamX, kdvY, QStringLiteral("    KDV. ...  : ") + Tutar2YazTek(yuvarlanmis, 15), 9);

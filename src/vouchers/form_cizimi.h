@@ -11,6 +11,10 @@
 // CurrentY. Pages are filled directly; no Yazici is involved until printing.
 namespace FormCizimi {
 
+// The lines of a voucher on every form: at most 25, 240 twips apart.
+inline constexpr int SatirSayisi = 25;
+inline constexpr double SatirAdimi = 240;
+
 // Between cells. Thin, because the printed values come close to the rules.
 inline constexpr double InceCizgi = 7;
 // Around a whole form.

@@ -14,8 +14,6 @@ namespace {
 // places where the texts go, so that each text sits inside one of them.
 constexpr double Sol = 40;
 constexpr double Sag = 11146;
-constexpr int SatirSayisi = 25;
-constexpr double SatirAdimi = 240;
 constexpr double IlkSatirY = 2100;
 // The form has room for more lines than a voucher holds, down to the total.
 constexpr int FormSatiri = 38;
@@ -36,12 +34,12 @@ Zemin IstekZemini()
     Ciz::Kutu(z, 1610, 620, 7300, 980);
 
     const QList<double> sutunlar = {Sol, 710, 2380, 5980, 7180, 8880, Sag};
-    const double govdeUst = Ciz::CizgiUstu(IlkSatirY, SatirAdimi, 9);
-    const double govdeAlt = govdeUst + FormSatiri * SatirAdimi;
+    const double govdeUst = Ciz::CizgiUstu(IlkSatirY, Ciz::SatirAdimi, 9);
+    const double govdeAlt = govdeUst + FormSatiri * Ciz::SatirAdimi;
     Ciz::Basliklar(z, sutunlar, 980, govdeUst,
                    {u"Sıra No"_s, u"Taşınır Kodu"_s, u"Taşınırın Adı"_s, u"Ölçü Birimi"_s, u"İstenilen Miktar"_s,
                     u"Verilen Miktar"_s});
-    Ciz::Govde(z, sutunlar, govdeUst, SatirAdimi, FormSatiri);
+    Ciz::Govde(z, sutunlar, govdeUst, Ciz::SatirAdimi, FormSatiri);
     Ciz::Kutu(z, Sol, 980, Sag, govdeAlt, Ciz::CerceveCizgisi);
     Ciz::Basliklar(z, {5980, 7180}, govdeAlt, ToplamAlt, {u"TOPLAM"_s});
     Ciz::Kutu(z, 7180, govdeAlt, Sag, ToplamAlt, Ciz::CerceveCizgisi);
@@ -99,12 +97,12 @@ Sayfa IstekSayfasi(const FisYazimi& yazim, const SabitSatiri& sabit)
     Ciz::Yaz(s, 7950, 11310, SagaDaya(toplam, 15), 10);
 
     int sayac = 0;
-    for (int i = 1; i <= SatirSayisi; ++i) {
+    for (int i = 1; i <= Ciz::SatirSayisi; ++i) {
         const double cikan = Val(fis.Hucre(i, 10));
         if (!(cikan > 0))
             continue;
         ++sayac;
-        const double y = IlkSatirY + (sayac - 1) * SatirAdimi;
+        const double y = IlkSatirY + (sayac - 1) * Ciz::SatirAdimi;
         QVariant miktar = cikan;
         const QString istenen = Tutar2Yaz(miktar, 9);
         Ciz::Yaz(s, 180, y, QString::number(sayac), 9);

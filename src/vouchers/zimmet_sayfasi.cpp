@@ -13,8 +13,6 @@ namespace {
 // places where the texts go, so that each text sits inside one of them.
 constexpr double Sol = 40;
 constexpr double Sag = 11146;
-constexpr int SatirSayisi = 25;
-constexpr double SatirAdimi = 240;
 constexpr double IlkSatirY = 3100;
 constexpr double ImzaTabani = 11800;
 constexpr double ImzaAdimi = 220;
@@ -87,12 +85,12 @@ Zemin ZimmetZemini()
     }
 
     const QList<double> sutunlar = {Sol, 730, 3230, 6680, 7570, 8600, Sag};
-    const double govdeUst = Ciz::CizgiUstu(IlkSatirY, SatirAdimi, 9);
+    const double govdeUst = Ciz::CizgiUstu(IlkSatirY, Ciz::SatirAdimi, 9);
     Ciz::Basliklar(
         z, sutunlar, 2010, govdeUst,
         {u"Sıra No"_s, u"Sicil No"_s, u"Taşınırın Adı / Özelliği"_s, u"Miktarı"_s, u"Ölçü Birimi"_s, u"Açıklama"_s});
-    Ciz::Govde(z, sutunlar, govdeUst, SatirAdimi, SatirSayisi);
-    Ciz::Kutu(z, Sol, 2010, Sag, govdeUst + SatirSayisi * SatirAdimi, Ciz::CerceveCizgisi);
+    Ciz::Govde(z, sutunlar, govdeUst, Ciz::SatirAdimi, Ciz::SatirSayisi);
+    Ciz::Kutu(z, Sol, 2010, Sag, govdeUst + Ciz::SatirSayisi * Ciz::SatirAdimi, Ciz::CerceveCizgisi);
 
     Ciz::Kutu(z, Sol, 9160, Sag, 10100);
     Ciz::Etiket(z, Alan(100, 9220, Sag - 60, 9600),
@@ -154,12 +152,12 @@ Sayfa ZimmetSayfasi(const FisYazimi& yazim, const SabitSatiri& sabit)
     Ciz::Yaz(s, 6900, 600, fis.Tarih, 11);
 
     int sayac = 0;
-    for (int i = 1; i <= SatirSayisi; ++i) {
+    for (int i = 1; i <= Ciz::SatirSayisi; ++i) {
         const QString kod = fis.Hucre(i, 1);
         if (kod.isEmpty() || kod.left(3) == "150"_L1)
             continue;
         ++sayac;
-        const double y = IlkSatirY + (sayac - 1) * SatirAdimi;
+        const double y = IlkSatirY + (sayac - 1) * Ciz::SatirAdimi;
         Ciz::Yaz(s, 80, y, QString::number(sayac), 9);
         Ciz::Yaz(s, 750, y, FisYazimiKurali::SicilYazisi(fis, i, sayac), 9);
         Ciz::Yaz(s, 3260, y, fis.Hucre(i, 3).left(35), 9);

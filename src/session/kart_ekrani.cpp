@@ -1,6 +1,6 @@
 #include "kart_ekrani.h"
 
-#include "cikti.h"
+#include "cikti_ekran.h"
 #include "hata.h"
 #include "yazici.h"
 

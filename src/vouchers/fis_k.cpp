@@ -7,6 +7,7 @@
 #include "fis_yaz.h"
 #include "istek_yaz.h"
 #include "kayit.h"
+#include "metin_sec.h"
 #include "liste_izgarasi.h"
 #include "malzeme_l.h"
 #include "saat.h"

@@ -1,4 +1,4 @@
-#include "cikti.h"
+#include "cikti_ekran.h"
 #include "sayfa_gorunumu.h"
 #include "yazici.h"
 

@@ -1,7 +1,5 @@
 #include "kayit.h"
 
-#include <QComboBox>
-#include <QLineEdit>
 #include <QTest>
 
 class TstKayit : public QObject
@@ -25,7 +23,6 @@ private slots:
     void tutarYaziyla();
     void yazilamayanTutar_data();
     void yazilamayanTutar();
-    void metinSec();
 };
 
 void TstKayit::paraYaz_data()
@@ -234,22 +231,6 @@ void TstKayit::yazilamayanTutar()
     } catch (const BicimHatasi& hata) {
         QVERIFY2(hata.Mesaj().contains(mesaj), qPrintable(hata.Mesaj()));
     }
-}
-
-void TstKayit::metinSec()
-{
-    QLineEdit kutu(QStringLiteral("12,50"));
-    kutu.setCursorPosition(2);
-    MetinSec(&kutu);
-    QCOMPARE(kutu.selectionStart(), 0);
-    QCOMPARE(kutu.selectedText(), kutu.text());
-
-    QComboBox liste;
-    liste.setEditable(true);
-    liste.setEditText(QStringLiteral("Ankara"));
-    MetinSec(&liste);
-    QCOMPARE(liste.lineEdit()->selectedText(), QStringLiteral("Ankara"));
-    MetinSec(static_cast<QLineEdit*>(nullptr));
 }
 
 QTEST_MAIN(TstKayit)

@@ -3,8 +3,6 @@
 #include "bicim.h"
 #include "val_oku.h"
 
-#include <QComboBox>
-#include <QLineEdit>
 #include <cmath>
 
 namespace {
@@ -194,16 +192,4 @@ QString TutarYaziyla(double toplam)
     if (kurus.size() == 1)
         kurus += u'0';
     return lira + KurusYazi(Val(kurus)) + QStringLiteral(" kuruş");
-}
-
-void MetinSec(QLineEdit* kutu)
-{
-    if (kutu)
-        kutu->setSelection(0, kutu->text().size());
-}
-
-void MetinSec(QComboBox* kutu)
-{
-    if (kutu)
-        MetinSec(kutu->lineEdit());
 }

@@ -6,8 +6,6 @@
 #include <QString>
 
 class QPagedPaintDevice;
-class QPrinter;
-class QWidget;
 
 // A document that cannot reach its output. The message is the one the user
 // sees, with the critical icon.
@@ -45,30 +43,6 @@ public:
 
 private:
     QString m_dosya;
-};
-
-// A printer the caller has chosen, usually through QPrintDialog. Its own
-// margins stay: they are the printable area.
-class YaziciCikti : public Cikti
-{
-public:
-    explicit YaziciCikti(QPrinter& yazici);
-    bool Hazir() const override;
-    void Yaz(const Belge& belge) override;
-
-private:
-    QPrinter& m_yazici;
-};
-
-// The print preview dialog, modal; the user prints or saves a PDF from it.
-class OnizlemeCikti : public Cikti
-{
-public:
-    explicit OnizlemeCikti(QWidget* ebeveyn = nullptr);
-    void Yaz(const Belge& belge) override;
-
-private:
-    QWidget* m_ebeveyn;
 };
 
 // Draws the pages on A4, each in its own orientation. False when the device

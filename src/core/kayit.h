@@ -5,8 +5,6 @@
 #include <QString>
 #include <QVariant>
 
-class QComboBox;
-class QLineEdit;
 
 // An amount the money wording cannot spell (1 to 9 kuruş, a negative or
 // fractional amount, one in exponent form). The run-time stopped with a type
@@ -64,7 +62,3 @@ QString KurusYazi(double kurus);
 // (fifteen significant digits), one digit taken as tens. Throws BicimHatasi
 // where the wording fails, 1 to 9 kuruş among them.
 QString TutarYaziyla(double toplam);
-
-// Selects the whole text so that the first key replaces it.
-void MetinSec(QLineEdit* kutu);
-void MetinSec(QComboBox* kutu);

@@ -1,11 +1,7 @@
 #include "cikti.h"
 
-#include <QGuiApplication>
-#include <QMessageBox>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QPrintPreviewDialog>
-#include <QPrinter>
 
 void BellekCikti::Yaz(const Belge& belge)
 {
@@ -25,41 +21,6 @@ void PdfCikti::Yaz(const Belge& belge)
                                     QMarginsF(kenar, kenar, kenar, kenar), QPageLayout::Point));
     if (!BelgeCiz(yazar, belge))
         throw YaziciHatasi();
-}
-
-YaziciCikti::YaziciCikti(QPrinter& yazici)
-    : m_yazici(yazici)
-{
-}
-
-bool YaziciCikti::Hazir() const
-{
-    return m_yazici.isValid();
-}
-
-void YaziciCikti::Yaz(const Belge& belge)
-{
-    if (!BelgeCiz(m_yazici, belge))
-        throw YaziciHatasi();
-}
-
-OnizlemeCikti::OnizlemeCikti(QWidget* ebeveyn)
-    : m_ebeveyn(ebeveyn)
-{
-}
-
-void OnizlemeCikti::Yaz(const Belge& belge)
-{
-    QPrinter yazici(QPrinter::HighResolution);
-    QPrintPreviewDialog pencere(&yazici, m_ebeveyn);
-    QObject::connect(&pencere, &QPrintPreviewDialog::paintRequested, &pencere,
-                     [&](QPrinter* hedef) {
-        // Only a real printer can fail here; no exception may cross the dialog.
-        if (!BelgeCiz(*hedef, belge))
-            QMessageBox::critical(&pencere, QGuiApplication::applicationDisplayName(),
-                                  YaziciHatasi().Mesaj());
-    });
-    pencere.exec();
 }
 
 bool BelgeCiz(QPagedPaintDevice& cihaz, const Belge& belge)

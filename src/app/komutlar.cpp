@@ -1,0 +1,158 @@
+// The command-line commands: each works without a window and answers the
+// program's exit code, its messages on the standard output and error.
+
+#include "komutlar.h"
+
+#include "cikti.h"
+#include "fis_sayfasi.h"
+#include "fis_toplam.h"
+#include "istek_sayfasi.h"
+#include "kod_plani_yukle.h"
+#include "ornek_veri.h"
+#include "sabit_kayit.h"
+#include "tek_deger.h"
+#include "unite_tanim.h"
+#include "veritabani.h"
+#include "yazici.h"
+#include "zimmet_sayfasi.h"
+
+#include <QDir>
+
+#include <cstdio>
+
+namespace {
+
+void hataYaz(const QString& mesaj)
+{
+    std::fprintf(stderr, "%s\n", qPrintable(mesaj));
+}
+
+// The unit list as the unit screen's print button gives it.
+void uniteListesiYazdir(const QString& klasor, Yazici& p)
+{
+    Veritabani vt(klasor, Dosya::Genel);
+    const QString kurum = AlanGetir(vt, QStringLiteral("Sabit"), QStringLiteral("KurumAdi"),
+                                    QStringLiteral(" where Anahtar = 1 "));
+    UniteTanim::UniteListesiYazdir(klasor, kurum, p);
+}
+
+// One page of a saved voucher: the voucher, its custody slip or its request
+// slip, as the voucher screen's print screens draw it.
+Sayfa fisSayfasi(const QString& klasor, const QString& no, const QString& cins, const QString& yil,
+                 const QString& tur)
+{
+    QString harfHatasi;
+    const FisYazimi yazim = FisToplam::KayittanYazim(klasor, no, cins, yil, &harfHatasi);
+    if (!harfHatasi.isEmpty())
+        hataYaz(harfHatasi);
+    const SabitSatiri sabit = SabitKayit::Getir(klasor).value_or(SabitSatiri());
+    if (tur == QLatin1String("zimmet"))
+        return ZimmetSayfasi(yazim, sabit);
+    if (tur == QLatin1String("istek"))
+        return IstekSayfasi(yazim, sabit);
+    return FisSayfasi(yazim, sabit);
+}
+
+void pdfYaz(const Sayfa& sayfa, const QString& dosya)
+{
+    PdfCikti pdf(dosya);
+    Yazici p(&pdf);
+    p.PaintPicture(sayfa);
+    p.EndDoc();
+}
+
+}
+
+int Komutlar::OrnekVeri(const QStringList& argumanlar, const QString& satirMetni)
+{
+    if (argumanlar.size() < 2) {
+        hataYaz(QStringLiteral("Kullanım: tasinir ornek-veri KLASÖR [--satir N]"));
+        return 2;
+    }
+    bool tamam = true;
+    const int satir = satirMetni.isEmpty() ? 3000 : satirMetni.toInt(&tamam);
+    if (!tamam || satir < 1) {
+        hataYaz(QStringLiteral("--satir bir pozitif tam sayı olmalı: %1").arg(satirMetni));
+        return 2;
+    }
+    const QString klasor = QDir(argumanlar.at(1)).absolutePath();
+    OrnekVeriYaz(klasor, satir);
+    std::printf("Örnek veri yazıldı: %s\n", qPrintable(klasor));
+    return 0;
+}
+
+int Komutlar::Yazdir(const QString& klasor, const QStringList& argumanlar, const YazdirSecenekleri& secenek)
+{
+    const QString& no = secenek.no;
+    const QString cins = secenek.cins.toUpper();
+    const QString& yil = secenek.yil;
+    const QString tur = secenek.sayfa.isEmpty() ? QStringLiteral("fis") : secenek.sayfa;
+    const QString& dosya = secenek.cikti;
+    if (argumanlar.value(1) != QLatin1String("fis") || no.isEmpty() || yil.isEmpty() || dosya.isEmpty()
+        || (cins != QLatin1String("G") && cins != QLatin1String("C"))
+        || !QStringList{QStringLiteral("fis"), QStringLiteral("zimmet"), QStringLiteral("istek")}.contains(tur)) {
+        hataYaz(QStringLiteral("Kullanım: tasinir yazdir fis --veri KLASÖR --no N --cins G|C --yil YYYY "
+                               "[--sayfa fis|zimmet|istek] --cikti DOSYA.pdf"));
+        return 2;
+    }
+    pdfYaz(fisSayfasi(klasor, no, cins, yil, tur), QDir(dosya).absolutePath());
+    std::printf("Yazıldı: %s\n", qPrintable(QDir(dosya).absolutePath()));
+    return 0;
+}
+
+// The sample's forms: the unit list, and the pages of an entry voucher of
+// this year that hands durable goods out, and of an issue voucher.
+int Komutlar::OrnekFormlar(const QString& klasor, const QString& ciktiSecenegi)
+{
+    const QString cikti = ciktiSecenegi.isEmpty() ? QDir(klasor).filePath(QStringLiteral("formlar"))
+                                                  : QDir(ciktiSecenegi).absolutePath();
+    if (!QDir().mkpath(cikti)) {
+        hataYaz(QStringLiteral("Çıktı klasörü oluşturulamadı: %1").arg(cikti));
+        return 1;
+    }
+    QStringList yazilanlar;
+    const QString liste = QDir(cikti).filePath(QStringLiteral("unite_listesi.pdf"));
+    {
+        PdfCikti pdf(liste);
+        Yazici p(&pdf);
+        uniteListesiYazdir(klasor, p);
+    }
+    yazilanlar << liste;
+
+    Veritabani ayniyat(klasor, Dosya::Ayniyat);
+    const QString yil = EnBuyukMetin(ayniyat, QStringLiteral("FIS_B"), QStringLiteral("Mid(Tarih,7,4)"));
+    const QString giris =
+        AlanGetir(ayniyat, QStringLiteral("FIS"), QStringLiteral("min(FisNo)"),
+                  QStringLiteral(" where FCins = 'G' and Mid(Tarih,7,4) = ? and val(Cikan) > 0 "
+                                 "and Mid(HesapKod,1,3) <> '150'"),
+                  {yil});
+    const QString cikis = AlanGetir(ayniyat, QStringLiteral("FIS_B"), QStringLiteral("min(FisNo)"),
+                                    QStringLiteral(" where FCins = 'C' and Mid(Tarih,7,4) = ?"), {yil});
+    const auto yaz = [&](const QString& no, const QString& cins, const QString& tur) {
+        if (no.isEmpty())
+            return;
+        const QString dosya = QDir(cikti).filePath(QStringLiteral("%1_%2_%3_%4.pdf").arg(tur, cins, yil, no));
+        pdfYaz(fisSayfasi(klasor, no, cins, yil, tur), dosya);
+        yazilanlar << dosya;
+    };
+    for (const char* tur : {"fis", "zimmet", "istek"})
+        yaz(giris, QStringLiteral("G"), QString::fromLatin1(tur));
+    yaz(cikis, QStringLiteral("C"), QStringLiteral("fis"));
+
+    std::printf("Formlar PDF olarak yazıldı: %s\n", qPrintable(cikti));
+    for (const QString& dosya : yazilanlar)
+        std::printf("  %s\n", qPrintable(dosya));
+    return 0;
+}
+
+int Komutlar::KodPlani(const QString& klasor, const QStringList& argumanlar)
+{
+    if (argumanlar.size() < 2) {
+        hataYaz(QStringLiteral("Kullanım: tasinir kod-plani-yukle --veri KLASÖR DOSYA"));
+        return 2;
+    }
+    const KodPlaniSonucu sonuc = KodPlaniYukle(klasor, argumanlar.at(1));
+    std::printf("Hesap planı yüklendi: %d yeni, %d adı değişen, %d aynı kod.\n", sonuc.eklenen,
+                sonuc.adiDegisen, sonuc.ayni);
+    return 0;
+}

@@ -6,6 +6,7 @@
 #include "ornek_veri.h"
 #include "saat.h"
 #include "veri_klasoru.h"
+#include "veri.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -33,8 +34,10 @@ int main(int argc, char** argv)
     QTemporaryDir gecici;
     const QString klasor = argc > 1 ? QString::fromLocal8Bit(argv[1]) : gecici.path();
     const int satir = argc > 2 ? QString::fromLocal8Bit(argv[2]).toInt() : 1000000;
-    if (!QFileInfo::exists(QDir(klasor).filePath(QStringLiteral("AYNIYAT.MDB"))))
-        OrnekVeriYaz(klasor, satir);
+    const bool bos = !QFileInfo::exists(QDir(klasor).filePath(QStringLiteral("AYNIYAT.MDB")));
+    Veri veri(klasor);
+    if (bos)
+        OrnekVeriYaz(veri, satir);
 
     const QString yil = QString::number(Saat::Bugun().year());
     FisEkrani fis;
@@ -54,7 +57,7 @@ int main(int argc, char** argv)
     for (int tur = 0; tur < 30; ++tur) {
         QElapsedTimer t;
         t.start();
-        FisKayit::Kaydet(klasor, fis, [] { return true; });
+        FisKayit::Kaydet(veri.Ayniyat(), fis, [] { return true; });
         kayit.push_back(t.nsecsElapsed() / 1e6);
 
         t.restart();
@@ -62,8 +65,8 @@ int main(int argc, char** argv)
         okunan.FisNo = fis.FisNo;
         okunan.FCins = fis.FCins;
         okunan.CalisYil = yil;
-        FisKayit::Getir(klasor, okunan);
-        const FisSatirlari satirlar = FisKayit::SatirlariGetir(klasor, fis.FisNo, fis.FCins, yil);
+        FisKayit::Getir(veri.Ayniyat(), okunan);
+        const FisSatirlari satirlar = FisKayit::SatirlariGetir(veri.Ayniyat(), veri.Genel(), fis.FisNo, fis.FCins, yil);
         getir.push_back(t.nsecsElapsed() / 1e6);
         if (satirlar.hucreler.size() != 25) {
             std::fprintf(stderr, "beklenen 25 satır, gelen %lld\n", qint64(satirlar.hucreler.size()));

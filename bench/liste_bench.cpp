@@ -8,6 +8,7 @@
 #include "ornek_veri.h"
 #include "saat.h"
 #include "veritabani.h"
+#include "veri.h"
 
 #include <QApplication>
 #include <QDir>
@@ -30,7 +31,7 @@ double ortanca(std::vector<double> ms)
 }
 
 // Median milliseconds to the first screen, and the rows the list counts.
-std::pair<double, int> olc(const QString& klasor, const MalzemeListesi::Kosullar& k)
+std::pair<double, int> olc(Veri& veri, const MalzemeListesi::Kosullar& k)
 {
     std::vector<double> sureler;
     int satir = 0;
@@ -42,10 +43,7 @@ std::pair<double, int> olc(const QString& klasor, const MalzemeListesi::Kosullar
         QElapsedTimer t;
         t.start();
         const MalzemeListesi::Komut komut = MalzemeListesi::Liste(k);
-        {
-            Veritabani vt(klasor, Dosya::Ayniyat);
-            liste.Doldur(vt, komut.sql, komut.degerler);
-        }
+        liste.Doldur(veri.Ayniyat(), komut.sql, komut.degerler);
         QCoreApplication::processEvents();
         for (int r = 1; r <= ekranSatiri; ++r)
             liste.TextMatrix(r, 1);
@@ -64,8 +62,10 @@ int main(int argc, char** argv)
     QApplication app(argc, argv);
     QTemporaryDir gecici;
     const QString klasor = argc > 1 ? QString::fromLocal8Bit(argv[1]) : gecici.path();
-    if (!QFileInfo::exists(QDir(klasor).filePath(QStringLiteral("AYNIYAT.MDB"))))
-        OrnekVeriYaz(klasor, 1000000);
+    const bool bos = !QFileInfo::exists(QDir(klasor).filePath(QStringLiteral("AYNIYAT.MDB")));
+    Veri veri(klasor);
+    if (bos)
+        OrnekVeriYaz(veri, 1000000);
 
     // The screen's dates at load.
     const auto acilis = [] {
@@ -75,17 +75,17 @@ int main(int argc, char** argv)
         return k;
     };
     MalzemeListesi::Kosullar k = acilis();
-    const auto [tum, tumSatir] = olc(klasor, k);
+    const auto [tum, tumSatir] = olc(veri, k);
     std::printf("Süzgeçsiz liste, ilk ekran (ortanca, 5 kez): %8.1f ms, %d satır\n", tum, tumSatir);
 
     k.hareket = MalzemeListesi::Hareket::Gelen;
     k.HesapKod = QStringLiteral("150 01");
-    const auto [suzulu, suzuluSatir] = olc(klasor, k);
+    const auto [suzulu, suzuluSatir] = olc(veri, k);
     std::printf("Gelen + HesapKod 150 01, ilk ekran         : %8.1f ms, %d satır\n", suzulu, suzuluSatir);
 
     k = acilis();
     k.sira = MalzemeListesi::Sira::Ozellik;
-    const auto [sirali, siraliSatir] = olc(klasor, k);
+    const auto [sirali, siraliSatir] = olc(veri, k);
     std::printf("Özellik sırasıyla, ilk ekran                : %8.1f ms, %d satır\n", sirali, siraliSatir);
     return 0;
 }

@@ -5,6 +5,7 @@
 #include "ornek_veri.h"
 #include "tek_deger.h"
 #include "veritabani.h"
+#include "veri.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -47,14 +48,16 @@ int main(int argc, char** argv)
     QTemporaryDir gecici;
     const QString klasor = argc > 2 ? QString::fromLocal8Bit(argv[2]) : gecici.path();
 
-    if (!QFileInfo::exists(QDir(klasor).filePath(QStringLiteral("AYNIYAT.MDB")))) {
+    const bool bos = !QFileInfo::exists(QDir(klasor).filePath(QStringLiteral("AYNIYAT.MDB")));
+    Veri veri(klasor);
+    if (bos) {
         QElapsedTimer t;
         t.start();
-        OrnekVeriYaz(klasor, satir);
+        OrnekVeriYaz(veri, satir);
         std::printf("ornek-veri %d satır: %.1f s\n", satir, t.elapsed() / 1000.0);
     }
 
-    Veritabani ayniyat(klasor, Dosya::Ayniyat);
+    Veritabani& ayniyat = veri.Baglanti(Dosya::Ayniyat);
     QSqlQuery yilSorgu = ayniyat.Sorgu(QStringLiteral("select max(Mid(Tarih,7,4)) from FIS"));
     yilSorgu.next();
     const QString yil = yilSorgu.value(0).toString();
@@ -75,7 +78,7 @@ int main(int argc, char** argv)
     std::printf("gruplu toplam, cast/substr : %8.1f ms (toplam %.2f)\n", tYerli, b);
     std::printf("oran                       : %8.2f\n", tBizim / tYerli);
 
-    Veritabani genel(klasor, Dosya::Genel);
+    Veritabani& genel = veri.Baglanti(Dosya::Genel);
     const QString kod = AlanGetir(genel, QStringLiteral("URUN_K"), QStringLiteral("HesapKod"),
                                   QStringLiteral(" where HesapKod like ?"), {QStringLiteral("150 01 01%")});
     const int kez = 200;
@@ -103,7 +106,7 @@ int main(int argc, char** argv)
                   {kod});
     });
     birim("AlanGetir, bağlantı açıp kapayarak", [&] {
-        Veritabani vt(klasor, Dosya::Genel);
+        Veritabani& vt = veri.Baglanti(Dosya::Genel);
         AlanGetir(vt, QStringLiteral("Urun_K"), QStringLiteral("MalzAdi"), QStringLiteral(" where HesapKod = ?"),
                   {kod});
     });

@@ -12,7 +12,7 @@
 #include "sabit_kayit.h"
 #include "tek_deger.h"
 #include "unite_tanim.h"
-#include "veritabani.h"
+#include "veri.h"
 #include "yazici.h"
 #include "zimmet_sayfasi.h"
 
@@ -28,24 +28,23 @@ void hataYaz(const QString& mesaj)
 }
 
 // The unit list as the unit screen's print button gives it.
-void uniteListesiYazdir(const QString& klasor, Yazici& p)
+void uniteListesiYazdir(Veritabani& genel, Yazici& p)
 {
-    Veritabani vt(klasor, Dosya::Genel);
-    const QString kurum = AlanGetir(vt, QStringLiteral("Sabit"), QStringLiteral("KurumAdi"),
+    const QString kurum = AlanGetir(genel, QStringLiteral("Sabit"), QStringLiteral("KurumAdi"),
                                     QStringLiteral(" where Anahtar = 1 "));
-    UniteTanim::UniteListesiYazdir(klasor, kurum, p);
+    UniteTanim::UniteListesiYazdir(genel, kurum, p);
 }
 
 // One page of a saved voucher: the voucher, its custody slip or its request
 // slip, as the voucher screen's print screens draw it.
-Sayfa fisSayfasi(const QString& klasor, const QString& no, const QString& cins, const QString& yil,
+Sayfa fisSayfasi(Veri& veri, const QString& no, const QString& cins, const QString& yil,
                  const QString& tur)
 {
     QString harfHatasi;
-    const FisYazimi yazim = FisToplam::KayittanYazim(klasor, no, cins, yil, &harfHatasi);
+    const FisYazimi yazim = FisToplam::KayittanYazim(veri, no, cins, yil, &harfHatasi);
     if (!harfHatasi.isEmpty())
         hataYaz(harfHatasi);
-    const SabitSatiri sabit = SabitKayit::Getir(klasor).value_or(SabitSatiri());
+    const SabitSatiri sabit = SabitKayit::Getir(veri.Genel()).value_or(SabitSatiri());
     if (tur == QLatin1String("zimmet"))
         return ZimmetSayfasi(yazim, sabit);
     if (tur == QLatin1String("istek"))
@@ -61,9 +60,7 @@ void pdfYaz(const Sayfa& sayfa, const QString& dosya)
     p.EndDoc();
 }
 
-}
-
-int Komutlar::OrnekVeri(const QStringList& argumanlar, const QString& satirMetni)
+int ornekVeri(const QStringList& argumanlar, const QString& satirMetni)
 {
     if (argumanlar.size() < 2) {
         hataYaz(QStringLiteral("Kullanım: tasinir ornek-veri KLASÖR [--satir N]"));
@@ -76,12 +73,13 @@ int Komutlar::OrnekVeri(const QStringList& argumanlar, const QString& satirMetni
         return 2;
     }
     const QString klasor = QDir(argumanlar.at(1)).absolutePath();
-    OrnekVeriYaz(klasor, satir);
+    Veri veri(klasor);
+    OrnekVeriYaz(veri, satir);
     std::printf("Örnek veri yazıldı: %s\n", qPrintable(klasor));
     return 0;
 }
 
-int Komutlar::Yazdir(const QString& klasor, const QStringList& argumanlar, const YazdirSecenekleri& secenek)
+int yazdir(Veri& veri, const QStringList& argumanlar, const Komutlar::Secenekler& secenek)
 {
     const QString& no = secenek.no;
     const QString cins = secenek.cins.toUpper();
@@ -95,16 +93,16 @@ int Komutlar::Yazdir(const QString& klasor, const QStringList& argumanlar, const
                                "[--sayfa fis|zimmet|istek] --cikti DOSYA.pdf"));
         return 2;
     }
-    pdfYaz(fisSayfasi(klasor, no, cins, yil, tur), QDir(dosya).absolutePath());
+    pdfYaz(fisSayfasi(veri, no, cins, yil, tur), QDir(dosya).absolutePath());
     std::printf("Yazıldı: %s\n", qPrintable(QDir(dosya).absolutePath()));
     return 0;
 }
 
 // The sample's forms: the unit list, and the pages of an entry voucher of
 // this year that hands durable goods out, and of an issue voucher.
-int Komutlar::OrnekFormlar(const QString& klasor, const QString& ciktiSecenegi)
+int ornekFormlar(Veri& veri, const QString& ciktiSecenegi)
 {
-    const QString cikti = ciktiSecenegi.isEmpty() ? QDir(klasor).filePath(QStringLiteral("formlar"))
+    const QString cikti = ciktiSecenegi.isEmpty() ? QDir(veri.Klasor()).filePath(QStringLiteral("formlar"))
                                                   : QDir(ciktiSecenegi).absolutePath();
     if (!QDir().mkpath(cikti)) {
         hataYaz(QStringLiteral("Çıktı klasörü oluşturulamadı: %1").arg(cikti));
@@ -115,11 +113,11 @@ int Komutlar::OrnekFormlar(const QString& klasor, const QString& ciktiSecenegi)
     {
         PdfCikti pdf(liste);
         Yazici p(&pdf);
-        uniteListesiYazdir(klasor, p);
+        uniteListesiYazdir(veri.Genel(), p);
     }
     yazilanlar << liste;
 
-    Veritabani ayniyat(klasor, Dosya::Ayniyat);
+    Veritabani& ayniyat = veri.Ayniyat();
     const QString yil = EnBuyukMetin(ayniyat, QStringLiteral("FIS_B"), QStringLiteral("Mid(Tarih,7,4)"));
     const QString giris =
         AlanGetir(ayniyat, QStringLiteral("FIS"), QStringLiteral("min(FisNo)"),
@@ -132,7 +130,7 @@ int Komutlar::OrnekFormlar(const QString& klasor, const QString& ciktiSecenegi)
         if (no.isEmpty())
             return;
         const QString dosya = QDir(cikti).filePath(QStringLiteral("%1_%2_%3_%4.pdf").arg(tur, cins, yil, no));
-        pdfYaz(fisSayfasi(klasor, no, cins, yil, tur), dosya);
+        pdfYaz(fisSayfasi(veri, no, cins, yil, tur), dosya);
         yazilanlar << dosya;
     };
     for (const char* tur : {"fis", "zimmet", "istek"})
@@ -145,14 +143,41 @@ int Komutlar::OrnekFormlar(const QString& klasor, const QString& ciktiSecenegi)
     return 0;
 }
 
-int Komutlar::KodPlani(const QString& klasor, const QStringList& argumanlar)
+int kodPlani(Veri& veri, const QStringList& argumanlar)
 {
     if (argumanlar.size() < 2) {
         hataYaz(QStringLiteral("Kullanım: tasinir kod-plani-yukle --veri KLASÖR DOSYA"));
         return 2;
     }
-    const KodPlaniSonucu sonuc = KodPlaniYukle(klasor, argumanlar.at(1));
+    const KodPlaniSonucu sonuc = KodPlaniYukle(veri, argumanlar.at(1));
     std::printf("Hesap planı yüklendi: %d yeni, %d adı değişen, %d aynı kod.\n", sonuc.eklenen,
                 sonuc.adiDegisen, sonuc.ayni);
     return 0;
+}
+
+}
+
+int Komutlar::Calistir(const QStringList& argumanlar, const QString& klasor, const Secenekler& secenek)
+{
+    const QString komut = argumanlar.value(0);
+    try {
+        if (komut == QLatin1String("ornek-veri"))
+            return ornekVeri(argumanlar, secenek.satir);
+        if (komut != QLatin1String("ornek-formlar") && komut != QLatin1String("kod-plani-yukle")
+            && komut != QLatin1String("yazdir")) {
+            hataYaz(QStringLiteral("Bilinmeyen komut: %1 (tasinir --help)").arg(komut));
+            return 2;
+        }
+        // A folder that lacks a file or holds a bad one stops here, before
+        // anything is written.
+        Veri veri(klasor);
+        if (komut == QLatin1String("ornek-formlar"))
+            return ornekFormlar(veri, secenek.cikti);
+        if (komut == QLatin1String("kod-plani-yukle"))
+            return kodPlani(veri, argumanlar);
+        return yazdir(veri, argumanlar, secenek);
+    } catch (const Hata& h) {
+        hataYaz(h.Mesaj());
+    }
+    return 1;
 }

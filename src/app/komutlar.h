@@ -2,18 +2,20 @@
 
 #include <QStringList>
 
-// The bodies of the command-line commands, apart from main() so that tests
-// run them. Each answers the exit code: 0 done, 1 failed, 2 misused.
+// The command-line commands, apart from main() so that tests run them.
 namespace Komutlar {
 
-struct YazdirSecenekleri
+// The options the commands read (empty when not given).
+struct Secenekler
 {
-    QString no, cins, yil, sayfa, cikti;
+    QString satir;                       // ornek-veri: voucher lines
+    QString no, cins, yil, sayfa, cikti; // yazdir; cikti also for ornek-formlar
 };
 
-int OrnekVeri(const QStringList& argumanlar, const QString& satirMetni);
-int OrnekFormlar(const QString& klasor, const QString& ciktiSecenegi);
-int KodPlani(const QString& klasor, const QStringList& argumanlar);
-int Yazdir(const QString& klasor, const QStringList& argumanlar, const YazdirSecenekleri& secenek);
+// Runs the command word (the first of the arguments) on the data folder,
+// without a window. Answers the exit code: 0 done, 1 failed, 2 misused; the
+// message goes to the standard error. A folder that lacks a data file, or
+// holds one that cannot be read, fails before anything is written.
+int Calistir(const QStringList& argumanlar, const QString& klasor, const Secenekler& secenek);
 
 }

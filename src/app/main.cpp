@@ -7,6 +7,7 @@
 #include "menu.h"
 #include "oturum.h"
 #include "parola.h"
+#include "veri_acilisi.h"
 #include "veri_klasoru.h"
 
 #include <QApplication>
@@ -14,27 +15,26 @@
 #include <QDir>
 #include <QFile>
 #include <QMessageBox>
-
-#include <cstdio>
+#include <QTimer>
 
 namespace {
 
-void hataYaz(const QString& mesaj)
-{
-    std::fprintf(stderr, "%s\n", qPrintable(mesaj));
-}
-
-// The login, then the menu for the rest of the run.
+// The data files, the login, then the menu for the rest of the run; the
+// monthly copy is written once the menu shows.
 int pencereli(const QString& klasor)
 {
+    const AcilanVeri acilan = VeriAc(klasor);
+    if (!acilan.veri)
+        return 1;
     Parola parola(Oturum::ParolaYazimlari(klasor));
     if (parola.exec() != QDialog::Accepted)
         return 0;
-    Menu menu(klasor);
+    Menu menu(*acilan.veri);
     EkranlariTanimla(menu);
     QObject::connect(&menu, &Menu::Cikis, qApp, &QApplication::closeAllWindows);
     menu.show();
-    Oturum::AylikKopya(klasor);
+    if (acilan.kopyaYazilabilir)
+        QTimer::singleShot(0, &menu, &Menu::AylikKopyaYaz);
     return QApplication::exec();
 }
 
@@ -92,27 +92,14 @@ int main(int argc, char* argv[])
     const QString komut = argumanlar.value(0);
     const QString klasor = VeriKlasoru::Sec(parser.value(veri));
 
+    if (!komut.isEmpty())
+        return Komutlar::Calistir(argumanlar, klasor,
+                                  {parser.value(satir), parser.value(no), parser.value(cins), parser.value(yil),
+                                   parser.value(sayfa), parser.value(cikti)});
     try {
-        if (komut == QLatin1String("ornek-veri"))
-            return Komutlar::OrnekVeri(argumanlar, parser.value(satir));
-        VeriKlasoru::Hazirla(klasor);
-        if (komut == QLatin1String("ornek-formlar"))
-            return Komutlar::OrnekFormlar(klasor, parser.value(cikti));
-        if (komut == QLatin1String("kod-plani-yukle"))
-            return Komutlar::KodPlani(klasor, argumanlar);
-        if (komut == QLatin1String("yazdir"))
-            return Komutlar::Yazdir(klasor, argumanlar,
-                                     {parser.value(no), parser.value(cins), parser.value(yil),
-                                      parser.value(sayfa), parser.value(cikti)});
-        if (!komut.isEmpty()) {
-            hataYaz(QStringLiteral("Bilinmeyen komut: %1 (tasinir --help)").arg(komut));
-            return 2;
-        }
         return pencereli(klasor);
     } catch (const Hata& h) {
-        if (komut.isEmpty())
-            QMessageBox::critical(nullptr, QStringLiteral("Taşınır"), h.Mesaj());
-        hataYaz(h.Mesaj());
+        QMessageBox::critical(nullptr, QGuiApplication::applicationDisplayName(), h.Mesaj());
     }
     return 1;
 }

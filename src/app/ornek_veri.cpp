@@ -2,8 +2,7 @@
 
 #include "fis_kayit.h"
 #include "saat.h"
-#include "veri_klasoru.h"
-#include "veritabani.h"
+#include "veri.h"
 
 #include <QDate>
 #include <QDir>
@@ -974,13 +973,13 @@ private:
 
 }
 
-void OrnekVeriYaz(const QString& klasor, int satir)
+void OrnekVeriYaz(Veri& veri, int satir)
 {
-    VeriKlasoru::Hazirla(klasor);
-    Veritabani genel(klasor, Dosya::Genel);
-    Veritabani ayniyat(klasor, Dosya::Ayniyat);
-    // Room for the indexes of a large set, for this connection only: the
-    // default cache sends every index page back and forth to the disk.
+    const QString& klasor = veri.Klasor();
+    Veritabani& genel = veri.Genel();
+    Veritabani& ayniyat = veri.Ayniyat();
+    // Room for the indexes of a large set: the default cache sends every
+    // index page back and forth to the disk.
     ayniyat.Calistir(QStringLiteral("PRAGMA cache_size = -65536"));
     Islem genelIslem(genel);
     Islem ayniyatIslem(ayniyat);

@@ -1,14 +1,51 @@
 #include "oturum.h"
 
 #include "saat.h"
+#include "veri.h"
 #include "veri_klasoru.h"
-#include "veritabani.h"
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QLocale>
 #include <QSettings>
+
+#include <sqlite3.h>
+
+#include <filesystem>
+
+namespace {
+
+void sil(const QString& yol)
+{
+    for (const char* ek : {"", "-wal", "-shm", "-journal"})
+        QFile::remove(yol + QLatin1String(ek));
+}
+
+// The copy opens with the plain engine, none of our functions, and passes
+// quick_check.
+QString denetimHatasi(const QString& yol)
+{
+    sqlite3* db = nullptr;
+    const QByteArray ad = yol.toUtf8();
+    QString hata;
+    if (sqlite3_open_v2(ad.constData(), &db, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK) {
+        hata = QString::fromUtf8(sqlite3_errmsg(db));
+    } else {
+        sqlite3_stmt* komut = nullptr;
+        if (sqlite3_prepare_v2(db, "pragma quick_check", -1, &komut, nullptr) != SQLITE_OK)
+            hata = QString::fromUtf8(sqlite3_errmsg(db));
+        else if (sqlite3_step(komut) != SQLITE_ROW)
+            hata = QString::fromUtf8(sqlite3_errmsg(db));
+        else if (const auto* sonuc = reinterpret_cast<const char*>(sqlite3_column_text(komut, 0));
+                 qstrcmp(sonuc, "ok") != 0)
+            hata = QString::fromUtf8(sonuc);
+        sqlite3_finalize(komut);
+    }
+    sqlite3_close(db);
+    return hata;
+}
+
+}
 
 QStringList Oturum::ParolaYazimlari(const QString& klasor)
 {
@@ -18,37 +55,38 @@ QStringList Oturum::ParolaYazimlari(const QString& klasor)
     return {turkce.toUpper(parola), turkce.toLower(parola)};
 }
 
-bool Oturum::AylikKopya(const QString& klasor)
+QString Oturum::AylikKopya(const QString& klasor)
 {
     const QString kaynak = VeriKlasoru::DosyaYolu(klasor, DosyaAdi(Dosya::Ayniyat));
-    if (!QFileInfo::exists(kaynak))
-        return false;
-    const QString ad = QStringLiteral("AYNIYAT%1.MDB").arg(Saat::Bugun().month(), 2, 10, QLatin1Char('0'));
-    const QString hedef = VeriKlasoru::DosyaYolu(klasor, ad);
-    // Written beside the old copy first, so that a failure leaves it whole.
+    const QString hedef = VeriKlasoru::DosyaYolu(klasor, VeriKlasoru::AylikKopyaAdi(Saat::Bugun().month()));
     const QString gecici = hedef + QStringLiteral(".yeni");
-    QFile::remove(gecici);
+    sil(gecici);
     try {
         Veritabani vt(kaynak);
         vt.Calistir(QStringLiteral("VACUUM INTO ?"), {gecici});
-    } catch (const VeriHatasi&) {
-        QFile::remove(gecici);
-        return false;
+    } catch (const VeriHatasi& h) {
+        sil(gecici);
+        throw VeriHatasi(QStringLiteral("Aylık güvenlik kopyası yazılamadı; önceki kopya duruyor.\n") + h.Mesaj());
     }
-    if (QFileInfo::exists(hedef) && !QFile::remove(hedef)) {
-        QFile::remove(gecici);
-        return false;
+    const QString hata = denetimHatasi(gecici);
+    std::error_code tasima;
+    if (hata.isEmpty())
+        std::filesystem::rename(gecici.toStdU16String(), hedef.toStdU16String(), tasima);
+    if (!hata.isEmpty() || tasima) {
+        sil(gecici);
+        throw VeriHatasi(QStringLiteral("Aylık güvenlik kopyası yazılamadı; önceki kopya duruyor.\n%1")
+                             .arg(hata.isEmpty() ? QString::fromLocal8Bit(tasima.message()) : hata));
     }
-    return QFile::rename(gecici, hedef);
+    return hedef;
 }
 
-CalismaBaglami Oturum::MenuBaglami(const QString& klasor)
+CalismaBaglami Oturum::MenuBaglami(Veri& veri)
 {
     CalismaBaglami baglam;
-    baglam.Klasor = klasor;
+    baglam.Veriler = &veri;
     try {
-        Veritabani vt(klasor, Dosya::Genel);
-        QSqlQuery q = vt.Sorgu(QStringLiteral("Select KurumAdi, CalisAy, CalisYil from Sabit Where Anahtar = 1 "));
+        QSqlQuery q = veri.Genel().Sorgu(
+            QStringLiteral("Select KurumAdi, CalisAy, CalisYil from Sabit Where Anahtar = 1 "));
         if (q.next()) {
             baglam.Baslik = q.value(0).toString();
             baglam.CalisAy = q.value(1).toString();

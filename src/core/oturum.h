@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+class Veri;
+
 // The start of a run: the password, the monthly safety copy, and what the
 // menu reads at load.
 namespace Oturum {
@@ -13,15 +15,17 @@ namespace Oturum {
 // in the data folder, "Z7" when the file does not set it.
 QStringList ParolaYazimlari(const QString& klasor);
 
-// The monthly safety copy of AYNIYAT.MDB: "AYNIYAT" + the month of today's
-// date in two digits + ".MDB", replacing that month's copy. A consistent
-// copy of the live file; on any failure the old copy stays and false comes
-// back (the login goes on regardless).
-bool AylikKopya(const QString& klasor);
+// The monthly safety copy of AYNIYAT.MDB, replacing this month's copy
+// (VeriKlasoru::AylikKopyaAdi). SQLite's own copy of the live file is
+// written to a temporary name beside it, opened and checked with
+// quick_check, then renamed over the old copy in one step: on any failure
+// the old copy stays whole and VeriHatasi is thrown. Opens its own
+// connection, so it may run on a worker thread. Answers the copy's path.
+QString AylikKopya(const QString& klasor);
 
 // The working year and month and the institution's name from the constants
 // row; errors are passed over and leave the values empty, as a first start
 // without constants shows the empty menu.
-CalismaBaglami MenuBaglami(const QString& klasor);
+CalismaBaglami MenuBaglami(Veri& veri);
 
 }

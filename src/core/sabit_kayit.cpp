@@ -81,9 +81,8 @@ QSqlQuery satirOku(Veritabani& vt)
 
 }
 
-std::optional<SabitSatiri> SabitKayit::Getir(const QString& klasor)
+std::optional<SabitSatiri> SabitKayit::Getir(Veritabani& vt)
 {
-    Veritabani vt(klasor, Dosya::Genel);
     QSqlQuery sorgu = satirOku(vt);
     if (!sorgu.next())
         return std::nullopt;
@@ -93,7 +92,7 @@ std::optional<SabitSatiri> SabitKayit::Getir(const QString& klasor)
     return satir;
 }
 
-void SabitKayit::Kaydet(const QString& klasor, const SabitSatiri& degerler)
+void SabitKayit::Kaydet(Veritabani& vt, const SabitSatiri& degerler)
 {
     QStringList atamalar;
     QVariantList baglar;
@@ -107,7 +106,6 @@ void SabitKayit::Kaydet(const QString& klasor, const SabitSatiri& degerler)
         baglar << bosDegil({});
     }
 
-    Veritabani vt(klasor, Dosya::Genel);
     Islem islem(vt);
     if (!satirOku(vt).next())
         vt.Calistir(QStringLiteral("insert into Sabit (Anahtar) values (1)"));
@@ -116,14 +114,12 @@ void SabitKayit::Kaydet(const QString& klasor, const SabitSatiri& degerler)
     islem.Onayla();
 }
 
-void SabitKayit::Sil(const QString& klasor)
+void SabitKayit::Sil(Veritabani& vt)
 {
-    Veritabani vt(klasor, Dosya::Genel);
     vt.Calistir(QStringLiteral("delete from Sabit where Anahtar = 1"));
 }
 
-bool SabitKayit::Var(const QString& klasor)
+bool SabitKayit::Var(Veritabani& vt)
 {
-    Veritabani vt(klasor, Dosya::Genel);
     return satirOku(vt).next();
 }

@@ -6,6 +6,8 @@
 
 #include <optional>
 
+class Veritabani;
+
 // One field of the constants row that the screen edits.
 struct SabitAlan
 {
@@ -22,19 +24,19 @@ const QList<SabitAlan>& SabitAlanlari();
 // The row by field name, as text.
 using SabitSatiri = QMap<QString, QString>;
 
-// The single row of Sabit in GENEL.MDB, key 1. Every routine throws
-// VeriHatasi when the file cannot be read or written.
+// The single row of Sabit in GENEL.MDB (the connection given), key 1. Every
+// routine throws VeriHatasi when the file cannot be read or written.
 namespace SabitKayit {
 
 // The edited fields of the row; nothing when there is no row.
-std::optional<SabitSatiri> Getir(const QString& klasor);
+std::optional<SabitSatiri> Getir(Veritabani& genel);
 
 // Writes every edited field (a field missing from the values as empty), the
 // numbers through Val, and empties the rates and limits no screen edits.
 // Creates the row with key 1 when there is none. One transaction.
-void Kaydet(const QString& klasor, const SabitSatiri& degerler);
+void Kaydet(Veritabani& genel, const SabitSatiri& degerler);
 
-void Sil(const QString& klasor);
-bool Var(const QString& klasor);
+void Sil(Veritabani& genel);
+bool Var(Veritabani& genel);
 
 }

@@ -1,12 +1,10 @@
 #pragma once
 
+#include "dosya.h"
 #include "veritabani.h"
 
 // The tables of each data file and the rows a new installation starts with.
 namespace Sema {
-
-// The application id every file of ours carries in its header.
-constexpr int UygulamaKimligi = 0x54534E52;  // "TSNR"
 
 // Creates the tables and indexes the file lacks.
 void Tamamla(Veritabani& vt, Dosya dosya);

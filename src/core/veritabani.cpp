@@ -1,8 +1,6 @@
 #include "veritabani.h"
 
-#include "sema.h"
 #include "sql_islevleri.h"
-#include "veri_klasoru.h"
 
 #include <QAtomicInt>
 #include <QFile>
@@ -12,18 +10,6 @@
 #include <QSqlRecord>
 
 #include <sqlite3.h>
-
-QString DosyaAdi(Dosya dosya)
-{
-    switch (dosya) {
-    case Dosya::Genel: return QStringLiteral("GENEL.MDB");
-    case Dosya::Ayniyat: return QStringLiteral("AYNIYAT.MDB");
-    case Dosya::HesapKod: return QStringLiteral("HESAPKOD.MDB");
-    case Dosya::Okul: return QStringLiteral("OKUL.MDB");
-    case Dosya::Sirket: return QStringLiteral("Sirket.dat");
-    }
-    return {};
-}
 
 namespace {
 
@@ -57,21 +43,15 @@ bool sqliteBasligiVar(const QString& yol)
 
 }
 
-Veritabani::Veritabani(const QString& klasor, Dosya dosya)
-    : m_yol(VeriKlasoru::DosyaYolu(klasor, DosyaAdi(dosya))), m_ad(yeniBaglantiAdi()), m_dosya(dosya)
+Veritabani::Veritabani(const QString& yol, Acilis acilis) : m_yol(yol), m_ad(yeniBaglantiAdi())
 {
-    const bool yeni = !QFileInfo::exists(m_yol) || !sqliteBasligiVar(m_yol);
-    Ac(yeni);
-}
-
-Veritabani::Veritabani(const QString& yol)
-    : m_yol(yol), m_ad(yeniBaglantiAdi()), m_dosya(Dosya::Genel)
-{
-    if (!QFileInfo::exists(m_yol))
-        throw VeriHatasi(QStringLiteral("\"%1\" dosyası bulunamadı.").arg(m_yol));
-    if (!sqliteBasligiVar(m_yol))
-        throw VeriHatasi(yabanciDosya(m_yol));
-    Ac(false);
+    const bool var = QFileInfo::exists(m_yol) && sqliteBasligiVar(m_yol);
+    if (acilis == Acilis::Var && !var)
+        throw VeriHatasi(QFileInfo::exists(m_yol) ? QStringLiteral("\"%1\" dosyası boş.").arg(m_yol)
+                                                  : QStringLiteral("\"%1\" dosyası bulunamadı.").arg(m_yol));
+    if (acilis == Acilis::Yeni && var)
+        throw VeriHatasi(QStringLiteral("\"%1\" dosyası zaten var; üzerine yazılmadı.").arg(m_yol));
+    Ac(acilis == Acilis::Yeni);
 }
 
 void Veritabani::Ac(bool yeni)
@@ -92,20 +72,15 @@ void Veritabani::Ac(bool yeni)
         // A file that is not ours is not touched, not even by a pragma.
         if (!yeni) {
             QSqlQuery kimlik = Sorgu(QStringLiteral("PRAGMA application_id"));
-            if (!kimlik.next() || kimlik.value(0).toInt() != Sema::UygulamaKimligi)
+            if (!kimlik.next() || kimlik.value(0).toInt() != UygulamaKimligi)
                 throw VeriHatasi(yabanciDosya(m_yol));
         }
         // Readers never block a writer: a long list still being read on one
         // screen must not stop a save on another.
         Calistir(QStringLiteral("PRAGMA journal_mode = WAL"));
         Calistir(QStringLiteral("PRAGMA synchronous = FULL"));
-        if (yeni) {
-            Islem islem(*this);
-            Calistir(QStringLiteral("PRAGMA application_id = %1").arg(Sema::UygulamaKimligi));
-            Sema::Tamamla(*this, m_dosya);
-            Sema::TeslimSatirlari(*this, m_dosya);
-            islem.Onayla();
-        }
+        if (yeni)
+            Calistir(QStringLiteral("PRAGMA application_id = %1").arg(UygulamaKimligi));
     } catch (...) {
         QSqlDatabase::database(m_ad, false).close();
         QSqlDatabase::removeDatabase(m_ad);

@@ -10,23 +10,24 @@
 #include <map>
 #include <memory>
 
-// The data files of the program, by their system names.
-enum class Dosya { Genel, Ayniyat, HesapKod, Okul, Sirket };
-
-QString DosyaAdi(Dosya dosya);
-
 class HazirKomut;
 
+// The application id every file of ours carries in its header.
+constexpr int UygulamaKimligi = 0x54534E52;  // "TSNR"
+
+// How a connection meets its file.
+enum class Acilis {
+    Var,   // an existing file of ours; a missing or foreign one is refused
+    Yeni,  // a file that does not exist yet (or is empty), made now
+};
+
 // One open connection to one data file, with our SQL functions registered.
-// Each screen or routine opens its own and lets it go when done.
+// The files of a folder are opened once and held (see Veri); the schema of a
+// new file is made by VeriKlasoru, not here.
 class Veritabani
 {
 public:
-    // Opens the file of the data folder, creating it with its tables and
-    // delivered rows when it does not exist yet.
-    Veritabani(const QString& klasor, Dosya dosya);
-    // Opens an existing file of ours by path (a monthly copy, a backup).
-    explicit Veritabani(const QString& yol);
+    explicit Veritabani(const QString& yol, Acilis acilis = Acilis::Var);
     ~Veritabani();
     Veritabani(const Veritabani&) = delete;
     Veritabani& operator=(const Veritabani&) = delete;
@@ -54,7 +55,6 @@ private:
 
     QString m_yol;
     QString m_ad;
-    Dosya m_dosya;
     std::map<QString, std::unique_ptr<HazirKomut>> m_hazirlar;
 };
 

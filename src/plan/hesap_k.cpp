@@ -207,7 +207,7 @@ bool HESAP_K::eventFilter(QObject* nesne, QEvent* olay)
 void HESAP_K::Listele()
 {
     Komut([this] {
-        T->Satirlar(HesapPlani::Liste(Baglam().Klasor, HesapKod1->text(), HesapAd1->text(),
+        T->Satirlar(HesapPlani::Liste(Genel(), HesapKod1->text(), HesapAd1->text(),
                                       Op2->isChecked() ? HesapPlani::Sira::HesapAd : HesapPlani::Sira::HesapKod));
     });
 }
@@ -219,7 +219,7 @@ void HESAP_K::Getir()
     std::optional<QString> ad;
     try {
         MesgulImlec imlec;
-        ad = HesapPlani::Getir(Baglam().Klasor, HesapKod->text());
+        ad = HesapPlani::Getir(Genel(), HesapKod->text());
     } catch (const Hata&) {
         Bildir(QStringLiteral("Kayıt getirilemiyor."), windowTitle(), QMessageBox::Critical);
         return;
@@ -239,7 +239,7 @@ void HESAP_K::Kaydet()
     Durum(QStringLiteral("    Lütfen Bekleyin ..   "));
     try {
         MesgulImlec imlec;
-        HesapPlani::Kaydet(Baglam().Klasor, HesapKod->text(), HesapAd->text());
+        HesapPlani::Kaydet(Genel(), HesapKod->text(), HesapAd->text());
     } catch (const Hata&) {
         const QString mesaj = QStringLiteral("  Kayıt yapılamıyor.  ");
         Durum(mesaj);
@@ -252,13 +252,13 @@ void HESAP_K::Kaydet()
 void HESAP_K::Sil()
 {
     bool var = false;
-    Komut([&] { var = HesapPlani::Var(Baglam().Klasor, HesapKod->text()); });
+    Komut([&] { var = HesapPlani::Var(Genel(), HesapKod->text()); });
     if (!var
         || !Sor(QStringLiteral(" Bu Hesap No yu Silmek istiyor musunuz ?"), QStringLiteral("Siliniyor"),
                 QMessageBox::Critical))
         return;
     Komut([this] {
-        HesapPlani::Sil(Baglam().Klasor, HesapKod->text());
+        HesapPlani::Sil(Genel(), HesapKod->text());
         HesapKod->clear();
         Temizle();
         HesapKod->setFocus();

@@ -26,7 +26,7 @@ qlonglong kodSayisi(const QString& hesapKod)
 
 }
 
-QList<QStringList> HesapPlani::Liste(const QString& klasor, const QString& kodSuzgeci, const QString& adSuzgeci,
+QList<QStringList> HesapPlani::Liste(Veritabani& vt, const QString& kodSuzgeci, const QString& adSuzgeci,
                                      Sira sira)
 {
     QString kosul;
@@ -40,26 +40,22 @@ QList<QStringList> HesapPlani::Liste(const QString& klasor, const QString& kodSu
         degerler = {adSuzgeci.trimmed() + u'*'};
     }
     const QString sirala = sira == Sira::HesapKod ? QStringLiteral("HesapKod") : QStringLiteral("HesapAd");
-
-    Veritabani vt(klasor, Dosya::Genel);
     return vt.Satirlar(QStringLiteral("Select HesapKod, HesapAd from HESAP_K ") + kosul
                                + QStringLiteral(" order by ") + sirala,
                            degerler);
 }
 
-std::optional<QString> HesapPlani::Getir(const QString& klasor, const QString& hesapKod)
+std::optional<QString> HesapPlani::Getir(Veritabani& vt, const QString& hesapKod)
 {
-    Veritabani vt(klasor, Dosya::Genel);
     QSqlQuery q = satirOku(vt, hesapKod);
     if (!q.next())
         return std::nullopt;
     return q.value(QStringLiteral("HesapAd")).toString().trimmed();
 }
 
-void HesapPlani::Kaydet(const QString& klasor, const QString& hesapKod, const QString& hesapAd)
+void HesapPlani::Kaydet(Veritabani& vt, const QString& hesapKod, const QString& hesapAd)
 {
     const QVariantList degerler{hesapKod.trimmed(), hesapAd.trimmed()};
-    Veritabani vt(klasor, Dosya::Genel);
     Islem islem(vt);
     if (satirOku(vt, hesapKod).next())
         vt.Calistir(QStringLiteral("update HESAP_K set HesapKod = ?, HesapAd = ? where HesapKod = ?"),
@@ -69,15 +65,13 @@ void HesapPlani::Kaydet(const QString& klasor, const QString& hesapKod, const QS
     islem.Onayla();
 }
 
-bool HesapPlani::Var(const QString& klasor, const QString& hesapKod)
+bool HesapPlani::Var(Veritabani& vt, const QString& hesapKod)
 {
-    Veritabani vt(klasor, Dosya::Genel);
     return satirOku(vt, hesapKod).next();
 }
 
-void HesapPlani::Sil(const QString& klasor, const QString& hesapKod)
+void HesapPlani::Sil(Veritabani& vt, const QString& hesapKod)
 {
-    Veritabani vt(klasor, Dosya::Genel);
     vt.Calistir(QStringLiteral("Delete From HESAP_K Where HesapKod = ? "), {hesapKod});
 }
 

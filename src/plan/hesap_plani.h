@@ -7,6 +7,7 @@
 #include <optional>
 
 class Izgara;
+class Veritabani;
 class Yazici;
 
 // The upper levels of the code plan: table HESAP_K of GENEL.MDB, code and
@@ -20,20 +21,20 @@ enum class Sira { HesapKod, HesapAd };
 
 // The rows of the list, code and name. A filter matches the start of the
 // text, case-blind; when both are filled the name filter alone acts.
-QList<QStringList> Liste(const QString& klasor, const QString& kodSuzgeci, const QString& adSuzgeci, Sira sira);
+QList<QStringList> Liste(Veritabani& genel, const QString& kodSuzgeci, const QString& adSuzgeci, Sira sira);
 
 // The trimmed name of the code (looked up trimmed); nothing without a row.
-std::optional<QString> Getir(const QString& klasor, const QString& hesapKod);
+std::optional<QString> Getir(Veritabani& genel, const QString& hesapKod);
 
 // Updates the row of the trimmed code, or adds one; both values trimmed.
-void Kaydet(const QString& klasor, const QString& hesapKod, const QString& hesapAd);
+void Kaydet(Veritabani& genel, const QString& hesapKod, const QString& hesapAd);
 
 // Whether the trimmed code has a row.
-bool Var(const QString& klasor, const QString& hesapKod);
+bool Var(Veritabani& genel, const QString& hesapKod);
 
 // Deletes the rows of the code exactly as given: a code with a blank behind
 // it deletes nothing. Classes and voucher lines under the code stay.
-void Sil(const QString& klasor, const QString& hesapKod);
+void Sil(Veritabani& genel, const QString& hesapKod);
 
 // Numeric stepping of a main code: Page Down and Page Up of the code box,
 // the up and down arrows beside it.

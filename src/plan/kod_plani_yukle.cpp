@@ -1,6 +1,6 @@
 #include "kod_plani_yukle.h"
 
-#include "veri_klasoru.h"
+#include "veri.h"
 #include "veritabani.h"
 
 #include <QFile>
@@ -62,16 +62,25 @@ QList<KodSatiri> oku(const QString& dosya)
 
 }
 
-KodPlaniSonucu KodPlaniYukle(const QString& klasor, const QString& dosya)
+KodPlaniSonucu KodPlaniYukle(Veri& veri, const QString& dosya)
 {
     const QList<KodSatiri> satirlar = oku(dosya);
-    VeriKlasoru::Hazirla(klasor);
-
-    Veritabani vt(klasor, Dosya::Genel);
-    // The reference plan lives in its own file; attached, one transaction
-    // covers both.
-    vt.Calistir(QStringLiteral("ATTACH DATABASE ? AS hk"),
-                {VeriKlasoru::DosyaYolu(klasor, DosyaAdi(Dosya::HesapKod))});
+    Veritabani& vt = veri.Genel();
+    // The reference plan lives in its own file; attached to the plan's
+    // connection for this load, one transaction covers both.
+    vt.Calistir(QStringLiteral("ATTACH DATABASE ? AS hk"), {veri.HesapKod().Yol()});
+    struct Ayir
+    {
+        Veritabani& vt;
+        ~Ayir()
+        {
+            try {
+                vt.Calistir(QStringLiteral("DETACH DATABASE hk"));
+            } catch (const VeriHatasi&) {
+                // Stays attached until the connection closes; nothing is lost.
+            }
+        }
+    } ayir{vt};
     KodPlaniSonucu sonuc;
     {
         Islem islem(vt);
@@ -108,6 +117,5 @@ KodPlaniSonucu KodPlaniYukle(const QString& klasor, const QString& dosya)
         }
         islem.Onayla();
     }
-    vt.Calistir(QStringLiteral("DETACH DATABASE hk"));
     return sonuc;
 }

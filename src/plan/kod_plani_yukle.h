@@ -2,6 +2,8 @@
 
 #include <QString>
 
+class Veri;
+
 // Loads an institution's own code list: a text file of two tab-separated
 // columns, code and name, one code a line. Every code is checked first; one
 // bad line and nothing is written. Then the rows of HESAP_K and of the
@@ -14,4 +16,4 @@ struct KodPlaniSonucu
 };
 
 // Throws VeriHatasi with the line number of the first bad line.
-KodPlaniSonucu KodPlaniYukle(const QString& klasor, const QString& dosya);
+KodPlaniSonucu KodPlaniYukle(Veri& veri, const QString& dosya);

@@ -273,7 +273,7 @@ void SinifTani::Listele()
                                   : Opt3->isChecked() ? SinifTanim::Sira::EskiKod
                                                       : SinifTanim::Sira::HesapKod;
     Komut([&] {
-        T->Satirlar(SinifTanim::Liste(Baglam().Klasor, HesapNo1->text(), MalzemeAd1->text(), EskiKod1->text(),
+        T->Satirlar(SinifTanim::Liste(Genel(), HesapNo1->text(), MalzemeAd1->text(), EskiKod1->text(),
                                       sira));
         T->Basliklar(SinifTanim::Basliklar());
         // The widths were made for a smaller font: a code is not to be cut.
@@ -287,7 +287,7 @@ bool SinifTani::Kaydet()
     DurumYaz(QStringLiteral("   Lütfen Bekleyin ..   "));
     const SinifSatiri satir{HesapNo->text(), MalzAdi->text(), Birimi->text(), KDV1->text(),
                             Barkod->text(),  Stok->text(),    EskiKod->text()};
-    if (!Dene([&] { SinifTanim::Kaydet(Baglam().Klasor, satir); }, QStringLiteral("  Kayıt yapılamıyor.  ")))
+    if (!Dene([&] { SinifTanim::Kaydet(Genel(), satir); }, QStringLiteral("  Kayıt yapılamıyor.  ")))
         return false;
     DurumYaz(QStringLiteral("    Kayıt Başarılı  ..  "));
     return true;
@@ -311,7 +311,7 @@ void SinifTani::Getir()
     if (HesapNo->text().isEmpty())
         return;
     std::optional<SinifSatiri> satir;
-    if (!Dene([&] { satir = SinifTanim::Getir(Baglam().Klasor, HesapNo->text()); },
+    if (!Dene([&] { satir = SinifTanim::Getir(Genel(), HesapNo->text()); },
               QStringLiteral("Kayıt getirilemiyor.")))
         return;
     if (!satir) {
@@ -332,12 +332,12 @@ void SinifTani::Sil()
 {
     const QString kod = HesapNo->text();
     bool var = false;
-    if (!Dene([&] { var = SinifTanim::Var(Baglam().Klasor, kod); }))
+    if (!Dene([&] { var = SinifTanim::Var(Genel(), kod); }))
         return;
     if (var && Sor(QStringLiteral("\n Bu Malzeme Fişlerde Kullanılmış ise Silindikten sonra , Defter ve Raporlarda "
                                   "görülmeyecek. \nSilmek istiyor musunuz ?"),
                    QStringLiteral("Siliniyor"), QMessageBox::Critical)) {
-        if (!Dene([&] { SinifTanim::Sil(Baglam().Klasor, kod); }))
+        if (!Dene([&] { SinifTanim::Sil(Genel(), kod); }))
             return;
         Temizle();
     }
@@ -351,7 +351,7 @@ void SinifTani::Sil2()
     if (Sor(QStringLiteral("  Silmek istiyor musunuz ?"), QStringLiteral("  Siliniyor.  "), QMessageBox::Critical)) {
         bool silindi = false;
         if (!Dene([&] {
-                silindi = SinifTanim::Sil2(Baglam().Klasor, HesapNo->text(), MalzAdi->text(), EskiKod->text());
+                silindi = SinifTanim::Sil2(Genel(), HesapNo->text(), MalzAdi->text(), EskiKod->text());
             }))
             return;
         if (silindi)
@@ -384,7 +384,7 @@ void SinifTani::AnaSecildi(int satir)
 {
     T3->Temizle();
     T4->Temizle();
-    Komut([&] { T3->Satirlar(SinifTanim::BirinciDetaylar(Baglam().Klasor, T2->TextMatrix(satir, 0))); });
+    Komut([&] { T3->Satirlar(SinifTanim::BirinciDetaylar(Genel(), T2->TextMatrix(satir, 0))); });
 }
 
 void SinifTani::BirinciSecildi(int satir)
@@ -392,14 +392,14 @@ void SinifTani::BirinciSecildi(int satir)
     T4->Temizle();
     const QString kod = T3->TextMatrix(satir, 0);
     if (!kod.isEmpty())
-        Komut([&] { T4->Satirlar(SinifTanim::IkinciDetaylar(Baglam().Klasor, kod)); });
+        Komut([&] { T4->Satirlar(SinifTanim::IkinciDetaylar(Genel(), kod)); });
 }
 
 void SinifTani::IkinciSecildi(int satir, int sutun)
 {
     HesapNo->clear();
     // The clicked column counts: the name column gives the name plus " 001".
-    Komut([&] { HesapNo->setText(SinifTanim::SonrakiKod(Baglam().Klasor, T4->TextMatrix(satir, sutun))); });
+    Komut([&] { HesapNo->setText(SinifTanim::SonrakiKod(Genel(), T4->TextMatrix(satir, sutun))); });
 }
 
 void SinifTani::ListedenAl(int satir)

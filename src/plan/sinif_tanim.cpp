@@ -9,9 +9,8 @@
 
 namespace {
 
-QList<QStringList> planSatirlari(const QString& klasor, const QString& sql, const QString& ust)
+QList<QStringList> planSatirlari(Veritabani& vt, const QString& sql, const QString& ust)
 {
-    Veritabani vt(klasor, Dosya::Genel);
     QSqlQuery sorgu = vt.Sorgu(sql, {ust});
     QList<QStringList> satirlar;
     QString onceki;
@@ -45,26 +44,25 @@ const QList<QStringList>& SinifTanim::AnaSiniflar()
     return siniflar;
 }
 
-QList<QStringList> SinifTanim::BirinciDetaylar(const QString& klasor, const QString& anaKod)
+QList<QStringList> SinifTanim::BirinciDetaylar(Veritabani& vt, const QString& anaKod)
 {
-    return planSatirlari(klasor,
+    return planSatirlari(vt,
                          QStringLiteral("Select HesapKod, HesapAd From HESAP_K where Mid(HesapKod,1,3) = ? and "
                                         "Mid(HesapKod,6,1) <> '' and Mid(HesapKod,8,1) = ''"),
                          anaKod);
 }
 
-QList<QStringList> SinifTanim::IkinciDetaylar(const QString& klasor, const QString& birinciKod)
+QList<QStringList> SinifTanim::IkinciDetaylar(Veritabani& vt, const QString& birinciKod)
 {
-    return planSatirlari(klasor,
+    return planSatirlari(vt,
                          QStringLiteral("Select HesapKod, HesapAd From HESAP_K where Mid(HesapKod,1,6) = ? and "
                                         "Mid(HesapKod,11,1) = '' and Mid(HesapKod,9,1) <> '' "),
                          birinciKod);
 }
 
-QString SinifTanim::SonrakiKod(const QString& klasor, const QString& tiklananMetin)
+QString SinifTanim::SonrakiKod(Veritabani& vt, const QString& tiklananMetin)
 {
     const QString ust = tiklananMetin.trimmed();
-    Veritabani vt(klasor, Dosya::Genel);
     const QString enBuyuk =
         EnBuyukMetin(vt, QStringLiteral("URUN_K"), QStringLiteral("HesapKod"),
                      QStringLiteral(" where mid(HesapKod,1,9) = ? "), {ust});
@@ -74,9 +72,8 @@ QString SinifTanim::SonrakiKod(const QString& klasor, const QString& tiklananMet
     return enBuyuk.left(10) + Format(sayi, QStringLiteral("0##"));
 }
 
-std::optional<SinifSatiri> SinifTanim::Getir(const QString& klasor, const QString& hesapKod)
+std::optional<SinifSatiri> SinifTanim::Getir(Veritabani& vt, const QString& hesapKod)
 {
-    Veritabani vt(klasor, Dosya::Genel);
     QSqlQuery sorgu = vt.Sorgu(kodSorgusu, {hesapKod.trimmed()});
     if (!sorgu.next())
         return std::nullopt;
@@ -92,13 +89,12 @@ std::optional<SinifSatiri> SinifTanim::Getir(const QString& klasor, const QStrin
     };
 }
 
-bool SinifTanim::Var(const QString& klasor, const QString& hesapKod)
+bool SinifTanim::Var(Veritabani& vt, const QString& hesapKod)
 {
-    Veritabani vt(klasor, Dosya::Genel);
     return vt.Sorgu(kodSorgusu, {hesapKod.trimmed()}).next();
 }
 
-void SinifTanim::Kaydet(const QString& klasor, const SinifSatiri& s)
+void SinifTanim::Kaydet(Veritabani& vt, const SinifSatiri& s)
 {
     const QString kod = s.HesapKod.trimmed();
     // Columns in the order of the table; the key comes last for the update.
@@ -110,7 +106,6 @@ void SinifTanim::Kaydet(const QString& klasor, const SinifSatiri& s)
                                 Val(s.Stok),
                                 s.EskiKod.trimmed(),
                                 kod};
-    Veritabani vt(klasor, Dosya::Genel);
     Islem islem(vt);
     if (vt.Sorgu(kodSorgusu, {kod}).next())
         vt.Calistir(QStringLiteral("update URUN_K set HesapKod = ?, MalzAdi = ?, Birimi = ?, KDV1 = ?, Barkod = ?, "
@@ -123,18 +118,16 @@ void SinifTanim::Kaydet(const QString& klasor, const SinifSatiri& s)
     islem.Onayla();
 }
 
-void SinifTanim::Sil(const QString& klasor, const QString& hesapKod)
+void SinifTanim::Sil(Veritabani& vt, const QString& hesapKod)
 {
-    Veritabani vt(klasor, Dosya::Genel);
     vt.Calistir(QStringLiteral("Delete From URUN_K Where HesapKod = ? "), {hesapKod.trimmed()});
 }
 
-bool SinifTanim::Sil2(const QString& klasor, const QString& hesapKod, const QString& malzAdi,
+bool SinifTanim::Sil2(Veritabani& vt, const QString& hesapKod, const QString& malzAdi,
                       const QString& eskiKod)
 {
     if (!hesapKod.isEmpty())
         return false;
-    Veritabani vt(klasor, Dosya::Genel);
     vt.Calistir(
         QStringLiteral("Delete From URUN_K Where MalzAdi = ? And EskiKod = ? And \"IsNull\"(HesapKod) "),
         {malzAdi.trimmed(), eskiKod.trimmed()});
@@ -154,7 +147,7 @@ const QList<int>& SinifTanim::Genislikler()
     return genislikler;
 }
 
-QList<QStringList> SinifTanim::Liste(const QString& klasor, const QString& hesapNo1, const QString& malzemeAd1,
+QList<QStringList> SinifTanim::Liste(Veritabani& vt, const QString& hesapNo1, const QString& malzemeAd1,
                                      const QString& eskiKod1, Sira sira)
 {
     QString kosul;
@@ -171,8 +164,6 @@ QList<QStringList> SinifTanim::Liste(const QString& klasor, const QString& hesap
     const QString sirala = sira == Sira::HesapKod  ? QStringLiteral("HesapKod")
                            : sira == Sira::MalzAdi ? QStringLiteral("MalzAdi")
                                                    : QStringLiteral("EskiKod");
-
-    Veritabani vt(klasor, Dosya::Genel);
     return vt.Satirlar(QStringLiteral("Select HesapKod, MalzAdi, Kdv1, EskiKod from URUN_K ") + kosul
                            + QStringLiteral(" order by ") + sirala,
                        degerler);

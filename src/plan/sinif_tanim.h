@@ -7,6 +7,7 @@
 #include <optional>
 
 class Izgara;
+class Veritabani;
 class Yazici;
 
 // A row of URUN_K in GENEL.MDB as the class screen edits it, every value as
@@ -33,31 +34,31 @@ const QList<QStringList>& AnaSiniflar();
 // The level 1 plan rows (code, name) under a main code, and the level 2 rows
 // under a level 1 code, in the order of the table. A row whose code repeats
 // the one of the row before it, or whose name is empty, is left out.
-QList<QStringList> BirinciDetaylar(const QString& klasor, const QString& anaKod);
-QList<QStringList> IkinciDetaylar(const QString& klasor, const QString& birinciKod);
+QList<QStringList> BirinciDetaylar(Veritabani& genel, const QString& anaKod);
+QList<QStringList> IkinciDetaylar(Veritabani& genel, const QString& birinciKod);
 
 // The next class code under the clicked text (a level 2 code when the code
 // column is clicked): the text plus " 001" when no class stands under it,
 // else the number of the greatest code by text plus one. Gaps are not
 // filled, and past 999 the text maximum stays at 999, so 1000 comes again.
-QString SonrakiKod(const QString& klasor, const QString& tiklananMetin);
+QString SonrakiKod(Veritabani& genel, const QString& tiklananMetin);
 
 // The row of the trimmed code; a NULL column comes back empty.
-std::optional<SinifSatiri> Getir(const QString& klasor, const QString& hesapKod);
-bool Var(const QString& klasor, const QString& hesapKod);
+std::optional<SinifSatiri> Getir(Veritabani& genel, const QString& hesapKod);
+bool Var(Veritabani& genel, const QString& hesapKod);
 
 // Updates the row of the trimmed code, or adds one: every column, the texts
 // trimmed, Birimi, KDV1 and Barkod cut to 8, 5 and 25 characters, Stok
 // through Val. An empty code is a code like any other. One transaction.
-void Kaydet(const QString& klasor, const SinifSatiri& satir);
+void Kaydet(Veritabani& genel, const SinifSatiri& satir);
 
 // Deletes the class of the trimmed code.
-void Sil(const QString& klasor, const QString& hesapKod);
+void Sil(Veritabani& genel, const QString& hesapKod);
 
 // Deletes the rows without a code (brought over from the earlier version)
 // that have this name and old code. Nothing while a code is given: answers
 // whether the delete ran.
-bool Sil2(const QString& klasor, const QString& hesapKod, const QString& malzAdi, const QString& eskiKod);
+bool Sil2(Veritabani& genel, const QString& hesapKod, const QString& malzAdi, const QString& eskiKod);
 
 // The order of the list: Opt1, Opt2, Opt3.
 enum class Sira { HesapKod, MalzAdi, EskiKod };
@@ -68,7 +69,7 @@ const QList<int>& Genislikler();
 
 // The rows (code, name, tax rate, old code) whose field begins with the
 // filter; of the filled filters only the last of code, name, old code acts.
-QList<QStringList> Liste(const QString& klasor, const QString& hesapNo1, const QString& malzemeAd1,
+QList<QStringList> Liste(Veritabani& genel, const QString& hesapNo1, const QString& malzemeAd1,
                          const QString& eskiKod1, Sira sira);
 
 // Prints the rows of the list grid, the headings again on every page after

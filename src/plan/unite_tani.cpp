@@ -175,7 +175,7 @@ void Unite_TANI::Guncelle()
 {
     Komut([this] {
         const QList<QStringList> satirlar =
-            UniteTanim::Liste(Baglam().Klasor, UniteKod1->text(), UniteAd1->text(),
+            UniteTanim::Liste(Genel(), UniteKod1->text(), UniteAd1->text(),
                               Op2->isChecked() ? UniteTanim::Sira::Ad : UniteTanim::Sira::Kod);
         // An empty result leaves the list as it was.
         if (!satirlar.isEmpty())
@@ -189,7 +189,7 @@ void Unite_TANI::Kaydet()
     Durum(QStringLiteral(" Lütfen Bekleyiniz ... "));
     Komut([this] {
         try {
-            UniteTanim::Kaydet(Baglam().Klasor, UniteKod->text(), UniteAd->text());
+            UniteTanim::Kaydet(Genel(), UniteKod->text(), UniteAd->text());
         } catch (const Hata&) {
             Durum(QStringLiteral("  Kayıt yapılamıyor.  "));
             throw;
@@ -204,7 +204,7 @@ void Unite_TANI::Getir()
     std::optional<UniteSatiri> satir;
     bool okundu = false;
     Komut([&] {
-        satir = UniteTanim::Getir(Baglam().Klasor, UniteKod->text());
+        satir = UniteTanim::Getir(Genel(), UniteKod->text());
         okundu = true;
     });
     if (!okundu)
@@ -224,12 +224,12 @@ void Unite_TANI::Getir()
 void Unite_TANI::Sil()
 {
     bool var = false;
-    Komut([&] { var = UniteTanim::Var(Baglam().Klasor, UniteKod->text()); });
+    Komut([&] { var = UniteTanim::Var(Genel(), UniteKod->text()); });
     if (var
         && Sor(QStringLiteral("   Bu Üniteyi silmek istiyor musunuz ?    "), QStringLiteral("Siliniyor"),
                QMessageBox::Critical))
         Komut([this] {
-            UniteTanim::Sil(Baglam().Klasor, UniteKod->text());
+            UniteTanim::Sil(Genel(), UniteKod->text());
             UniteKod->clear();
             Temizle();
             UniteKod->setFocus();
@@ -252,7 +252,7 @@ void Unite_TANI::Temizle2()
 
 void Unite_TANI::Sonk()
 {
-    Komut([this] { UniteKod->setText(UniteTanim::Sonk(Baglam().Klasor)); });
+    Komut([this] { UniteKod->setText(UniteTanim::Sonk(Genel())); });
 }
 
 void Unite_TANI::Adim(bool yukari)

@@ -35,7 +35,7 @@ const QList<int>& UniteTanim::Genislikler()
     return genislikler;
 }
 
-QList<QStringList> UniteTanim::Liste(const QString& klasor, const QString& kodSiniri, const QString& adSiniri,
+QList<QStringList> UniteTanim::Liste(Veritabani& vt, const QString& kodSiniri, const QString& adSiniri,
                                      Sira sira)
 {
     QString kosul = QStringLiteral(" where UniteKod <> '' ");
@@ -49,37 +49,31 @@ QList<QStringList> UniteTanim::Liste(const QString& klasor, const QString& kodSi
         degerler << adSiniri;
     }
     const QString siralama = sira == Sira::Kod ? QStringLiteral("UniteKod") : QStringLiteral("UniteAd");
-
-    Veritabani vt(klasor, Dosya::Genel);
     return vt.Satirlar(QStringLiteral("Select UniteKod, UniteAd from Unite_K ") + kosul
                                + QStringLiteral(" order by ") + siralama,
                            degerler);
 }
 
-QString UniteTanim::Sonk(const QString& klasor)
+QString UniteTanim::Sonk(Veritabani& vt)
 {
-    Veritabani vt(klasor, Dosya::Genel);
     return SayiMetni(EnBuyukSayi(vt, QStringLiteral("Unite_K"), QStringLiteral("UniteKod")) + 1);
 }
 
-std::optional<UniteSatiri> UniteTanim::Getir(const QString& klasor, const QString& kod)
+std::optional<UniteSatiri> UniteTanim::Getir(Veritabani& vt, const QString& kod)
 {
-    Veritabani vt(klasor, Dosya::Genel);
     QSqlQuery q = satirOku(vt, kod);
     if (!q.next())
         return std::nullopt;
     return UniteSatiri{q.value(0).toString().trimmed(), q.value(1).toString().trimmed()};
 }
 
-bool UniteTanim::Var(const QString& klasor, const QString& kod)
+bool UniteTanim::Var(Veritabani& vt, const QString& kod)
 {
-    Veritabani vt(klasor, Dosya::Genel);
     return satirOku(vt, kod).next();
 }
 
-void UniteTanim::Kaydet(const QString& klasor, const QString& kod, const QString& ad)
+void UniteTanim::Kaydet(Veritabani& vt, const QString& kod, const QString& ad)
 {
-    Veritabani vt(klasor, Dosya::Genel);
     Islem islem(vt);
     // Only the first row of a code that stands twice is renamed.
     QSqlQuery q = vt.Sorgu(QStringLiteral("Select rowid from Unite_K where UniteKod = ? "), {metinDegeri(kod)});
@@ -91,9 +85,8 @@ void UniteTanim::Kaydet(const QString& klasor, const QString& kod, const QString
     islem.Onayla();
 }
 
-void UniteTanim::Sil(const QString& klasor, const QString& kod)
+void UniteTanim::Sil(Veritabani& vt, const QString& kod)
 {
-    Veritabani vt(klasor, Dosya::Genel);
     vt.Calistir(QStringLiteral("Delete from Unite_K where UniteKod = ? "), {metinDegeri(kod)});
 }
 
@@ -113,9 +106,9 @@ void UniteTanim::ListeYazdir(Yazici& p, const QString& kurum, const Izgara& izga
     p.EndDoc();
 }
 
-void UniteTanim::UniteListesiYazdir(const QString& klasor, const QString& kurum, Yazici& p)
+void UniteTanim::UniteListesiYazdir(Veritabani& vt, const QString& kurum, Yazici& p)
 {
     QList<QStringList> satirlar{Basliklar()};
-    satirlar += Liste(klasor, {}, {}, Sira::Kod);
+    satirlar += Liste(vt, {}, {}, Sira::Kod);
     ListeYazdir(p, kurum, Izgara(satirlar, Genislikler()));
 }

@@ -7,6 +7,7 @@
 #include <optional>
 
 class Izgara;
+class Veritabani;
 class Yazici;
 
 // A row of Unite_K in GENEL.MDB: a department goods are issued to.
@@ -29,21 +30,21 @@ const QList<int>& Genislikler();
 
 // The rows (code, name) of every unit with a code, from the given lower
 // bounds on; a bound is left out when it is blank. Codes compare as text.
-QList<QStringList> Liste(const QString& klasor, const QString& kodSiniri, const QString& adSiniri, Sira sira);
+QList<QStringList> Liste(Veritabani& genel, const QString& kodSiniri, const QString& adSiniri, Sira sira);
 
 // The next code: one above the value of the text maximum of the codes, so
 // that once "10" exists it proposes 10 again ("9" is the maximum).
-QString Sonk(const QString& klasor);
+QString Sonk(Veritabani& genel);
 
 // The row of the code as typed, both values trimmed.
-std::optional<UniteSatiri> Getir(const QString& klasor, const QString& kod);
-bool Var(const QString& klasor, const QString& kod);
+std::optional<UniteSatiri> Getir(Veritabani& genel, const QString& kod);
+bool Var(Veritabani& genel, const QString& kod);
 
 // Renames the first row of the code as typed, or adds one. One transaction.
-void Kaydet(const QString& klasor, const QString& kod, const QString& ad);
+void Kaydet(Veritabani& genel, const QString& kod, const QString& ad);
 
 // Deletes every row of the code.
-void Sil(const QString& klasor, const QString& kod);
+void Sil(Veritabani& genel, const QString& kod);
 
 // A step of the arrows: up adds one to a code that is not empty; down takes
 // one off a code worth 1 or more. Otherwise the code stays as it is.
@@ -54,6 +55,6 @@ QString Adim(const QString& kod, bool yukari);
 void ListeYazdir(Yazici& p, const QString& kurum, const Izgara& izgara);
 
 // The whole list, in code order, as the screen prints it when it opens.
-void UniteListesiYazdir(const QString& klasor, const QString& kurum, Yazici& p);
+void UniteListesiYazdir(Veritabani& genel, const QString& kurum, Yazici& p);
 
 }

@@ -2,6 +2,7 @@
 
 #include "cikti_ekran.h"
 #include "hata.h"
+#include "veri.h"
 #include "yazici.h"
 
 #include <QApplication>
@@ -98,4 +99,14 @@ bool EvetHayir(QWidget* ebeveyn, const QString& soru, const QString& baslik, QMe
     kutu.setDefaultButton(evet);
     kutu.exec();
     return kutu.clickedButton() == evet;
+}
+
+Veritabani& KartEkrani::Genel() const
+{
+    return m_baglam.Veriler->Genel();
+}
+
+Veritabani& KartEkrani::Ayniyat() const
+{
+    return m_baglam.Veriler->Ayniyat();
 }

@@ -9,6 +9,7 @@
 
 class Cikti;
 class QLabel;
+class Veritabani;
 class Yazici;
 
 // What every card screen shares: the working context it was opened with, a
@@ -29,6 +30,9 @@ public:
     void CiktiSec(Cikti* cikti) { m_cikti = cikti; }
 
 protected:
+    // The data files the menu handed over, open for the run.
+    Veritabani& Genel() const;
+    Veritabani& Ayniyat() const;
     // The screen's own copy of the context, for screens that change it.
     CalismaBaglami& BaglamDegistir() { return m_baglam; }
 

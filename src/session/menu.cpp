@@ -1,9 +1,12 @@
 #include "menu.h"
 
+#include "hata.h"
 #include "oturum.h"
+#include "veri.h"
 
 #include <QAction>
 #include <QEvent>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QKeyEvent>
@@ -13,7 +16,11 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QShortcut>
+#include <QStatusBar>
+#include <QThread>
 #include <QVBoxLayout>
+
+#include <memory>
 
 namespace {
 
@@ -135,9 +142,9 @@ QVariantMap kipi(const QString& komut)
 
 }
 
-Menu::Menu(const QString& klasor, QWidget* ebeveyn)
+Menu::Menu(Veri& veri, QWidget* ebeveyn)
     : QMainWindow(ebeveyn), CalisYil(new QLineEdit), CalisAy(new QLineEdit), Baslik(new QLabel),
-      Picture2(new QLabel(QString::fromUtf8(ipucuYok))), Cd8(nullptr), m_klasor(klasor)
+      Picture2(new QLabel(QString::fromUtf8(ipucuYok))), Cd8(nullptr), m_veri(veri)
 {
     setObjectName(QStringLiteral("Menu"));
     CalisYil->setObjectName(QStringLiteral("CalisYil"));
@@ -200,11 +207,45 @@ Menu::Menu(const QString& klasor, QWidget* ebeveyn)
                            QStringLiteral("Taşınır Mal Yönetimi\nMevcutron 5.1"));
     });
 
-    const CalismaBaglami baglam = Oturum::MenuBaglami(klasor);
+    const CalismaBaglami baglam = Oturum::MenuBaglami(m_veri);
     CalisYil->setText(baglam.CalisYil);
     CalisAy->setText(baglam.CalisAy);
     Baslik->setText(baglam.Baslik);
     setWindowTitle(baglam.Baslik + QStringLiteral(" - ") + QStringLiteral("Taşınır Mal Yönetimi"));
+}
+
+Menu::~Menu()
+{
+    // The copy finishes on its own connection; the run ends after it.
+    if (m_kopyaIsi)
+        m_kopyaIsi->wait();
+}
+
+void Menu::AylikKopyaYaz()
+{
+    if (m_kopyaIsi)
+        return;
+    auto sonuc = std::make_shared<std::pair<QString, QString>>();  // the copy, the error
+    m_kopyaIsi = QThread::create([klasor = m_veri.Klasor(), sonuc] {
+        try {
+            sonuc->first = Oturum::AylikKopya(klasor);
+        } catch (const Hata& h) {
+            sonuc->second = h.Mesaj();
+        }
+    });
+    connect(m_kopyaIsi, &QThread::finished, this, [this, sonuc] {
+        m_kopyaIsi->deleteLater();
+        m_kopyaIsi = nullptr;
+        if (sonuc->second.isEmpty()) {
+            statusBar()->showMessage(QStringLiteral("Aylık güvenlik kopyası yazıldı: %1")
+                                         .arg(QFileInfo(sonuc->first).fileName()));
+        } else {
+            statusBar()->showMessage(QStringLiteral("Aylık güvenlik kopyası yazılamadı."));
+            QMessageBox::warning(this, windowTitle(), sonuc->second);
+        }
+        emit AylikKopyaBitti();
+    });
+    m_kopyaIsi->start();
 }
 
 void Menu::DugmeleriKur(QWidget* panel)
@@ -300,7 +341,7 @@ void Menu::Ac(const Hedef& hedef)
 
 CalismaBaglami Menu::Baglam() const
 {
-    return {CalisYil->text(), CalisAy->text(), Baslik->text(), m_klasor};
+    return {CalisYil->text(), CalisAy->text(), Baslik->text(), &m_veri};
 }
 
 void Menu::CalismaAyarla(const QString& yil, const QString& ay)

@@ -13,6 +13,8 @@ class QLabel;
 class QLineEdit;
 class QMenu;
 class QPushButton;
+class QThread;
+class Veri;
 
 // Opens a screen with the working context the menu holds now and the mode
 // values of the entry (control name of the target form → value).
@@ -26,8 +28,9 @@ class Menu : public QMainWindow
     Q_OBJECT
 
 public:
-    // Reads the constants row of the data folder at load.
-    explicit Menu(const QString& klasor, QWidget* ebeveyn = nullptr);
+    // Reads the constants row at load; the data files stay open for the run.
+    explicit Menu(Veri& veri, QWidget* ebeveyn = nullptr);
+    ~Menu() override;
 
     // Makes the entries that open this form usable. Entries of forms without
     // an opener stand disabled.
@@ -36,6 +39,10 @@ public:
     CalismaBaglami Baglam() const;
     // The new working year and month after the constants were saved.
     void CalismaAyarla(const QString& yil, const QString& ay);
+    // Writes the monthly safety copy on a worker of its own, so that the menu
+    // is usable at once; the status line says when it is done, a message
+    // when it failed. Emits AylikKopyaBitti either way.
+    void AylikKopyaYaz();
 
     QLineEdit* CalisYil;
     QLineEdit* CalisAy;
@@ -49,6 +56,7 @@ public:
 signals:
     // Cd8 and Ck: the run ends.
     void Cikis();
+    void AylikKopyaBitti();
 
 protected:
     bool eventFilter(QObject* nesne, QEvent* olay) override;
@@ -68,7 +76,8 @@ private:
     void Bagla(QAction* giris, const Hedef& hedef);
     void Guncelle();
 
-    QString m_klasor;
+    Veri& m_veri;
+    QThread* m_kopyaIsi = nullptr;
     QMap<QString, EkranAcici> m_acicilar;
     QMap<QString, QMenu*> m_altMenuler;
     // Every command with the form it opens; refreshed when an opener comes.

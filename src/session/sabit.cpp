@@ -143,7 +143,7 @@ void Sabit::Getir()
     std::optional<SabitSatiri> satir;
     try {
         MesgulImlec imlec;
-        satir = SabitKayit::Getir(Baglam().Klasor);
+        satir = SabitKayit::Getir(Genel());
     } catch (const Hata& h) {
         Durum(QStringLiteral(" Kayıt getirilemiyor."));
         Bildir(h.Mesaj(), QString(), QMessageBox::Critical);
@@ -168,7 +168,7 @@ void Sabit::Kaydet()
     Komut([this] {
         Durum(QStringLiteral("    Lütfen Bekleyiniz  .."));
         try {
-            SabitKayit::Kaydet(Baglam().Klasor, Degerler());
+            SabitKayit::Kaydet(Genel(), Degerler());
         } catch (const Hata&) {
             Durum(QStringLiteral(" Kayıt yapılamadı."));
             throw;
@@ -184,11 +184,11 @@ void Sabit::Sil()
     if (Val(Anahtar->text()) < 1)
         return;
     bool var = false;
-    Komut([&] { var = SabitKayit::Var(Baglam().Klasor); });
+    Komut([&] { var = SabitKayit::Var(Genel()); });
     if (!var || !Sor(QStringLiteral("Bu bilgileri silmek istiyormusunuz ?"), QStringLiteral("Siliniyor")))
         return;
     Komut([this] {
-        SabitKayit::Sil(Baglam().Klasor);
+        SabitKayit::Sil(Genel());
         Temizle();
         Muhasebeci1->setFocus();
     });

@@ -592,7 +592,7 @@ void FIS_K::Kaydet()
         return devam;
     };
     KayitSonucu sonuc = KayitSonucu::Vazgecildi;
-    if (!Dene([&] { sonuc = FisKayit::Kaydet(Baglam().Klasor, fis, aySorusu); },
+    if (!Dene([&] { sonuc = FisKayit::Kaydet(Ayniyat(), fis, aySorusu); },
               QStringLiteral("  Kayıt yapılamıyor.  ")))
         return;
     switch (sonuc) {
@@ -623,7 +623,7 @@ bool FIS_K::Getir()
         return false;
     FisEkrani fis = Ekran();
     bool var = false;
-    if (!Dene([&] { var = FisKayit::Getir(Baglam().Klasor, fis); }, QStringLiteral("Kayıt getirilemiyor.")))
+    if (!Dene([&] { var = FisKayit::Getir(Ayniyat(), fis); }, QStringLiteral("Kayıt getirilemiyor.")))
         return false;
     if (!var) {
         Temizle();
@@ -641,7 +641,7 @@ void FIS_K::SatirlariGetir()
 {
     FisSatirlari satirlar;
     if (!Dene([&] {
-            satirlar = FisKayit::SatirlariGetir(Baglam().Klasor, FisNo->text(), FCins, Baglam().CalisYil);
+            satirlar = FisKayit::SatirlariGetir(Ayniyat(), Genel(), FisNo->text(), FCins, Baglam().CalisYil);
         },
               QStringLiteral("Kayıt getirilemiyor.")))
         return;
@@ -668,7 +668,7 @@ void FIS_K::Sil()
     if (!Sor(QStringLiteral("Bu Fişi Silmek istiyor musunuz ?"), QStringLiteral(" Siliniyor. "),
              QMessageBox::Critical))
         return;
-    if (!Dene([this] { FisKayit::Sil(Baglam().Klasor, Ekran()); }))
+    if (!Dene([this] { FisKayit::Sil(Ayniyat(), Ekran()); }))
         return;
     Temizle();
     FisNo->setFocus();
@@ -679,7 +679,7 @@ void FIS_K::EnSon()
 {
     // Set first: a failing proposal must not come back at every activation.
     ilk1 = QStringLiteral("a");
-    Dene([this] { FisNo->setText(QString::number(FisKayit::EnSon(Baglam().Klasor, FCins, Baglam().CalisYil))); });
+    Dene([this] { FisNo->setText(QString::number(FisKayit::EnSon(Ayniyat(), FCins, Baglam().CalisYil))); });
 }
 
 void FIS_K::Temizle()
@@ -715,8 +715,8 @@ void FIS_K::GridHazirla()
 void FIS_K::Urunler()
 {
     Dene([this] {
-        listeDoldur(HesKod, FisSatir::HesKodListesi(Baglam().Klasor));
-        listeDoldur(Detay3, FisSatir::SinifAdlari(Baglam().Klasor));
+        listeDoldur(HesKod, FisSatir::HesKodListesi(Genel()));
+        listeDoldur(Detay3, FisSatir::SinifAdlari(Genel()));
     });
 }
 
@@ -758,8 +758,7 @@ void FIS_K::HucreDegisti(int satir, int sutun)
     const QString uniteKod = Hucre(FisSatir::UniteSutunu);
     if (sutun >= FisSatir::TarihSutunu && sutun <= FisSatir::IslemSutunu && Val(uniteKod) != 0)
         Dene([&] {
-            Veritabani genel(Baglam().Klasor, Dosya::Genel);
-            UniteAd2 = AlanGetir(genel, QStringLiteral("Unite_K"), QStringLiteral("UniteAd"),
+            UniteAd2 = AlanGetir(Genel(), QStringLiteral("Unite_K"), QStringLiteral("UniteAd"),
                                  QStringLiteral(" where UniteKod = ? "), {uniteKod});
         });
     Yaz2();
@@ -896,11 +895,11 @@ bool FIS_K::eventFilter(QObject* nesne, QEvent* olay)
         if (neden == Qt::ActiveWindowFocusReason || neden == Qt::PopupFocusReason)
             break;
         if (nesne == TeslimAlan)
-            Dene([this] { listeDoldur(TeslimAlan, FisSatir::TeslimAlanlar(Baglam().Klasor, FCins)); });
+            Dene([this] { listeDoldur(TeslimAlan, FisSatir::TeslimAlanlar(Ayniyat(), FCins)); });
         else if (nesne == NeredenGeldigi)
-            Dene([this] { listeDoldur(NeredenGeldigi, FisSatir::NeredenGeldiler(Baglam().Klasor, FCins)); });
+            Dene([this] { listeDoldur(NeredenGeldigi, FisSatir::NeredenGeldiler(Ayniyat(), FCins)); });
         else if (nesne == UniteAd)
-            Dene([this] { listeDoldur(UniteAd, FisSatir::UniteAdlari(Baglam().Klasor)); });
+            Dene([this] { listeDoldur(UniteAd, FisSatir::UniteAdlari(Genel())); });
         break;
     }
     case QEvent::FocusOut: {
@@ -1139,7 +1138,7 @@ void FIS_K::MalzAdGetir()
     if (kod.isEmpty())
         return;
     std::optional<QString> ad;
-    if (!Dene([&] { ad = FisSatir::MalzAdGetir(Baglam().Klasor, kod); }) || !ad)
+    if (!Dene([&] { ad = FisSatir::MalzAdGetir(Genel(), kod); }) || !ad)
         return;
     HucreYaz(2, *ad);
     HucreYaz(1, kod);
@@ -1148,7 +1147,7 @@ void FIS_K::MalzAdGetir()
 void FIS_K::HesKodSecildi(int sira)
 {
     std::optional<FisSatir::Sinif> sinif;
-    if (!Dene([&] { sinif = FisSatir::KodlaSinif(Baglam().Klasor, HesKod->itemText(sira)); }) || !sinif)
+    if (!Dene([&] { sinif = FisSatir::KodlaSinif(Genel(), HesKod->itemText(sira)); }) || !sinif)
         return;
     HucreYaz(1, sinif->HesapKod);
     HucreYaz(2, sinif->MalzAdi);
@@ -1162,7 +1161,7 @@ void FIS_K::Detay3Secildi(int sira)
 {
     const QString ad = Detay3->itemText(sira);
     std::optional<FisSatir::Sinif> sinif;
-    if (!Dene([&] { sinif = FisSatir::AdlaSinif(Baglam().Klasor, ad); }) || !sinif)
+    if (!Dene([&] { sinif = FisSatir::AdlaSinif(Genel(), ad); }) || !sinif)
         return;
     HucreYaz(1, sinif->HesapKod);
     HucreYaz(2, ad);
@@ -1175,7 +1174,7 @@ void FIS_K::UniteAdSecildi(int sira)
 {
     const QString ad = UniteAd->itemText(sira);
     std::optional<QString> kod;
-    if (!Dene([&] { kod = FisSatir::UniteKodu(Baglam().Klasor, ad); }) || !kod)
+    if (!Dene([&] { kod = FisSatir::UniteKodu(Genel(), ad); }) || !kod)
         return;
     HucreYaz(FisSatir::UniteSutunu, *kod);
     while (m_uniteAdlari.size() < T->Row())
@@ -1304,9 +1303,9 @@ void FIS_K::Command6Komutu()
     FisSatir::HareketListesi liste;
     bool doldu = false;
     if (sutun == 3 && !ozellik.isEmpty())
-        doldu = Dene([&] { liste = FisSatir::OzellikHareketListe(Baglam().Klasor, ozellik); });
+        doldu = Dene([&] { liste = FisSatir::OzellikHareketListe(Ayniyat(), ozellik); });
     else if ((sutun == 1 || sutun == 2) && !kod.isEmpty())
-        doldu = Dene([&] { liste = FisSatir::HesapHareketListe(Baglam().Klasor, kod); });
+        doldu = Dene([&] { liste = FisSatir::HesapHareketListe(Ayniyat(), kod); });
     if (doldu)
         HareketGoster(liste);
     L3->show();

@@ -74,9 +74,8 @@ QString FisKayit::IslemAdi(int kod)
     return kod >= 1 && kod <= IslemTurleri().size() ? IslemTurleri().at(kod - 1) : QString();
 }
 
-int FisKayit::EnSon(const QString& klasor, const QString& fcins, const QString& yil)
+int FisKayit::EnSon(Veritabani& vt, const QString& fcins, const QString& yil)
 {
-    Veritabani vt(klasor, Dosya::Ayniyat);
     return int(EnBuyukSayi(vt, QStringLiteral("FIS_B"), QStringLiteral("FisNo"),
                            QStringLiteral(" where  Fcins = ? and mid(Tarih,7,4) = ? "), {fcins, yil}))
            + 1;
@@ -85,12 +84,6 @@ int FisKayit::EnSon(const QString& klasor, const QString& fcins, const QString& 
 QString FisKayit::SicilNo(const QString& hesapKod, const QString& yil, const QString& fisNo)
 {
     return SayiMetni(Val(hesapKod)) + yil + SayiMetni(Val(fisNo)) + QStringLiteral("0");
-}
-
-KayitSonucu FisKayit::Kaydet(const QString& klasor, FisEkrani& fis, const std::function<bool()>& aySorusu)
-{
-    Veritabani vt(klasor, Dosya::Ayniyat);
-    return Kaydet(vt, fis, aySorusu);
 }
 
 KayitSonucu FisKayit::Kaydet(Veritabani& vt, FisEkrani& fis, const std::function<bool()>& aySorusu)
@@ -176,11 +169,10 @@ KayitSonucu FisKayit::Kaydet(Veritabani& vt, FisEkrani& fis, const std::function
     return KayitSonucu::Kaydedildi;
 }
 
-bool FisKayit::Getir(const QString& klasor, FisEkrani& fis)
+bool FisKayit::Getir(Veritabani& vt, FisEkrani& fis)
 {
     if (fis.FisNo.trimmed().isEmpty())
         return false;
-    Veritabani vt(klasor, Dosya::Ayniyat);
     QSqlQuery q = vt.Sorgu(QStringLiteral("Select FisNo, Tarih, KabulTarih, KabulSayi, BelgeSayi, TeslimAlan, "
                                           "NeredenGeldigi, BelgeTur From FIS_B")
                                + fisKosulu,
@@ -198,11 +190,10 @@ bool FisKayit::Getir(const QString& klasor, FisEkrani& fis)
     return true;
 }
 
-FisSatirlari FisKayit::SatirlariGetir(const QString& klasor, const QString& fisNo, const QString& fcins,
+FisSatirlari FisKayit::SatirlariGetir(Veritabani& ayniyat, Veritabani& genel, const QString& fisNo, const QString& fcins,
                                       const QString& yil)
 {
     FisSatirlari sonuc;
-    Veritabani ayniyat(klasor, Dosya::Ayniyat);
     QSqlQuery q = ayniyat.Sorgu(
         QStringLiteral("Select Satir, HesapKod, '', Ozellik, Birimi, Miktar, BirimFiyat, BelgeTarih, Unite, "
                        "IslemTur, Cikan, KimeVerildigi, AmbarNo, KDV, OzelKod From FIS "
@@ -217,7 +208,6 @@ FisSatirlari FisKayit::SatirlariGetir(const QString& klasor, const QString& fisN
     }
     if (sonuc.hucreler.isEmpty())
         return sonuc;
-    Veritabani genel(klasor, Dosya::Genel);
     for (QStringList& satir : sonuc.hucreler) {
         if (!satir.at(1).isEmpty())
             satir[2] = AlanGetir(genel, QStringLiteral("Urun_K"), QStringLiteral("MalzAdi"),
@@ -231,10 +221,9 @@ FisSatirlari FisKayit::SatirlariGetir(const QString& klasor, const QString& fisN
     return sonuc;
 }
 
-void FisKayit::Sil(const QString& klasor, const FisEkrani& fis)
+void FisKayit::Sil(Veritabani& vt, const FisEkrani& fis)
 {
     const QVariantList anahtar = {fisNoSayisi(fis.FisNo), fis.Tarih.mid(6, 4), fis.FCins};
-    Veritabani vt(klasor, Dosya::Ayniyat);
     Islem islem(vt);
     vt.Calistir(QStringLiteral("Delete from FIS_B where FisNo = ? and Mid(Tarih, 7, 4) = ? and Fcins = ?"), anahtar);
     vt.Calistir(QStringLiteral("Delete from FIS where FisNo = ? and Mid(Tarih, 7, 4) = ? and Fcins = ?"), anahtar);

@@ -57,27 +57,26 @@ QString IslemAdi(int kod);
 const QStringList& IslemTurleri();
 
 // The next number for the kind in the working year.
-int EnSon(const QString& klasor, const QString& fcins, const QString& yil);
+int EnSon(Veritabani& ayniyat, const QString& fcins, const QString& yil);
 
 // Saves head and lines in one transaction. The working-month question is
 // asked through the callback when today's month differs from CalisAy; false
 // ends the save. A database failure throws VeriHatasi and leaves the
 // voucher as it was.
-KayitSonucu Kaydet(const QString& klasor, FisEkrani& fis, const std::function<bool()>& aySorusu);
-// The same on an open AYNIYAT.MDB, inside the caller's transaction if any.
-KayitSonucu Kaydet(Veritabani& vt, FisEkrani& fis, const std::function<bool()>& aySorusu);
+// Runs inside the caller's transaction if one is open.
+KayitSonucu Kaydet(Veritabani& ayniyat, FisEkrani& fis, const std::function<bool()>& aySorusu);
 
 // Fills the head from the stored voucher of the working year; false when it
 // does not exist.
-bool Getir(const QString& klasor, FisEkrani& fis);
+bool Getir(Veritabani& ayniyat, FisEkrani& fis);
 
 // The lines of the voucher in the grid's column order, with the class name
 // in column 2.
-FisSatirlari SatirlariGetir(const QString& klasor, const QString& fisNo, const QString& fcins,
+FisSatirlari SatirlariGetir(Veritabani& ayniyat, Veritabani& genel, const QString& fisNo, const QString& fcins,
                             const QString& yil);
 
 // Deletes head and lines; the year comes from the date on screen.
-void Sil(const QString& klasor, const FisEkrani& fis);
+void Sil(Veritabani& ayniyat, const FisEkrani& fis);
 
 // Empties the screen for a new voucher; the number stays.
 void Temizle(FisEkrani& fis);

@@ -128,8 +128,7 @@ void FIS_L::Guncelle()
 {
     Komut([this] {
         const FisListesi::Komut k = FisListesi::Sorgu(Suzgec());
-        Veritabani vt(Baglam().Klasor, Dosya::Ayniyat);
-        T->Doldur(vt, k.sql, k.degerler);
+        T->Doldur(Ayniyat(), k.sql, k.degerler);
     });
 }
 

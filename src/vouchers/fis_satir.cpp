@@ -23,10 +23,9 @@ QStringList farkliDegerler(QSqlQuery q)
     return degerler;
 }
 
-FisSatir::HareketListesi hareketler(const QString& klasor, const QString& sql, const QString& deger)
+FisSatir::HareketListesi hareketler(Veritabani& vt, const QString& sql, const QString& deger)
 {
     FisSatir::HareketListesi liste;
-    Veritabani vt(klasor, Dosya::Ayniyat);
     QSqlQuery q = vt.Sorgu(sql, {deger});
     while (q.next()) {
         QStringList satir;
@@ -129,9 +128,8 @@ void FisSatir::SatirSil(QList<QStringList>& satirlar, int satir)
     satirlar.append(QStringList(FisEkrani::SutunSayisi, QString()));
 }
 
-QStringList FisSatir::HesKodListesi(const QString& klasor)
+QStringList FisSatir::HesKodListesi(Veritabani& vt)
 {
-    Veritabani vt(klasor, Dosya::Genel);
     QSqlQuery q = vt.Sorgu(QStringLiteral("Select HesapKod, MalzAdi from URUN_K Order by MalzAdi"));
     QStringList liste;
     while (q.next())
@@ -140,15 +138,13 @@ QStringList FisSatir::HesKodListesi(const QString& klasor)
     return liste;
 }
 
-QStringList FisSatir::SinifAdlari(const QString& klasor)
+QStringList FisSatir::SinifAdlari(Veritabani& vt)
 {
-    Veritabani vt(klasor, Dosya::Genel);
     return farkliDegerler(vt.Sorgu(QStringLiteral("Select MalzAdi from URUN_K ORDER BY MalzAdi")));
 }
 
-QStringList FisSatir::UniteAdlari(const QString& klasor)
+QStringList FisSatir::UniteAdlari(Veritabani& vt)
 {
-    Veritabani vt(klasor, Dosya::Genel);
     QSqlQuery q = vt.Sorgu(QStringLiteral("Select UniteKod, UniteAd from Unite_K Order by UniteAd"));
     QStringList adlar;
     while (q.next())
@@ -156,23 +152,20 @@ QStringList FisSatir::UniteAdlari(const QString& klasor)
     return adlar;
 }
 
-QStringList FisSatir::TeslimAlanlar(const QString& klasor, const QString& fcins)
+QStringList FisSatir::TeslimAlanlar(Veritabani& vt, const QString& fcins)
 {
-    Veritabani vt(klasor, Dosya::Ayniyat);
     return farkliDegerler(
         vt.Sorgu(QStringLiteral("Select TeslimAlan From FIS_B where Fcins = ? ORDER BY TeslimAlan"), {fcins}));
 }
 
-QStringList FisSatir::NeredenGeldiler(const QString& klasor, const QString& fcins)
+QStringList FisSatir::NeredenGeldiler(Veritabani& vt, const QString& fcins)
 {
-    Veritabani vt(klasor, Dosya::Ayniyat);
     return farkliDegerler(vt.Sorgu(
         QStringLiteral("Select NeredenGeldigi From FIS_B where Fcins = ?  Order by NeredenGeldigi"), {fcins}));
 }
 
-std::optional<FisSatir::Sinif> FisSatir::KodlaSinif(const QString& klasor, const QString& secilen)
+std::optional<FisSatir::Sinif> FisSatir::KodlaSinif(Veritabani& vt, const QString& secilen)
 {
-    Veritabani vt(klasor, Dosya::Genel);
     QSqlQuery q = vt.Sorgu(QStringLiteral("Select HesapKod, MalzAdi, KDV1,Birimi from URUN_K Where HesapKod = ? "
                                           "ORDER BY HesapKod "),
                            {secilen.left(13)});
@@ -182,27 +175,24 @@ std::optional<FisSatir::Sinif> FisSatir::KodlaSinif(const QString& klasor, const
                  q.value(3).toString()};
 }
 
-std::optional<FisSatir::Sinif> FisSatir::AdlaSinif(const QString& klasor, const QString& ad)
+std::optional<FisSatir::Sinif> FisSatir::AdlaSinif(Veritabani& vt, const QString& ad)
 {
-    Veritabani vt(klasor, Dosya::Genel);
     QSqlQuery q = vt.Sorgu(QStringLiteral("Select HesapKod, MalzAdi, KDV1 from URUN_K Where MalzAdi = ?  "), {ad});
     if (!q.next())
         return std::nullopt;
     return Sinif{q.value(0).toString(), q.value(1).toString(), q.value(2).toString(), QString()};
 }
 
-std::optional<QString> FisSatir::MalzAdGetir(const QString& klasor, const QString& hesapKod)
+std::optional<QString> FisSatir::MalzAdGetir(Veritabani& vt, const QString& hesapKod)
 {
-    Veritabani vt(klasor, Dosya::Genel);
     QSqlQuery q = vt.Sorgu(QStringLiteral("Select MalzAdi, HesapKod from URUN_K where HesapKod = ? "), {hesapKod});
     if (!q.next())
         return std::nullopt;
     return q.value(0).toString();
 }
 
-std::optional<QString> FisSatir::UniteKodu(const QString& klasor, const QString& uniteAd)
+std::optional<QString> FisSatir::UniteKodu(Veritabani& vt, const QString& uniteAd)
 {
-    Veritabani vt(klasor, Dosya::Genel);
     QSqlQuery q = vt.Sorgu(QStringLiteral("Select UniteKod, UniteAd from Unite_K Where UniteAd = ? "), {uniteAd});
     if (!q.next())
         return std::nullopt;
@@ -221,18 +211,18 @@ QList<int> FisSatir::HareketGenislikleri()
     return {3400, 1220, 700, 1000, 1000, 1300, 660, 2300};
 }
 
-FisSatir::HareketListesi FisSatir::HesapHareketListe(const QString& klasor, const QString& hesapKod)
+FisSatir::HareketListesi FisSatir::HesapHareketListe(Veritabani& vt, const QString& hesapKod)
 {
-    return hareketler(klasor,
+    return hareketler(vt,
                       QStringLiteral("Select Ozellik, BirimFiyat, FisNo, Miktar,Cikan, Tarih, Unite,KimeVerildigi "
                                      "From FIS  Where HesapKod = ? and (FCinss IS Null or FCinss = '' ) "
                                      "order by FisNo, Tarih "),
                       hesapKod);
 }
 
-FisSatir::HareketListesi FisSatir::OzellikHareketListe(const QString& klasor, const QString& ozellik)
+FisSatir::HareketListesi FisSatir::OzellikHareketListe(Veritabani& vt, const QString& ozellik)
 {
-    return hareketler(klasor,
+    return hareketler(vt,
                       QStringLiteral("Select Ozellik, BirimFiyat, FisNo, Miktar,Cikan, Tarih, Unite,KimeVerildigi "
                                      "From FIS  Where Ozellik = ? order by FisNo, Tarih "),
                       ozellik);

@@ -7,6 +7,7 @@
 #include <optional>
 
 class Izgara;
+class Veritabani;
 class Yazici;
 
 // The line entry of the voucher screen apart from its widgets: the grid's
@@ -67,22 +68,22 @@ struct Sinif
 };
 
 // The look-up lists: "code name" by name, the class names, the unit names.
-QStringList HesKodListesi(const QString& klasor);
-QStringList SinifAdlari(const QString& klasor);
-QStringList UniteAdlari(const QString& klasor);
+QStringList HesKodListesi(Veritabani& genel);
+QStringList SinifAdlari(Veritabani& genel);
+QStringList UniteAdlari(Veritabani& genel);
 // The names typed before in the head of vouchers of the kind.
-QStringList TeslimAlanlar(const QString& klasor, const QString& fcins);
-QStringList NeredenGeldiler(const QString& klasor, const QString& fcins);
+QStringList TeslimAlanlar(Veritabani& ayniyat, const QString& fcins);
+QStringList NeredenGeldiler(Veritabani& ayniyat, const QString& fcins);
 
 // The class picked from the code list, by the first 13 characters of the
 // item; the values trimmed.
-std::optional<Sinif> KodlaSinif(const QString& klasor, const QString& secilen);
+std::optional<Sinif> KodlaSinif(Veritabani& genel, const QString& secilen);
 // The class picked from the name list (no unit).
-std::optional<Sinif> AdlaSinif(const QString& klasor, const QString& ad);
+std::optional<Sinif> AdlaSinif(Veritabani& genel, const QString& ad);
 // The class name of a typed code.
-std::optional<QString> MalzAdGetir(const QString& klasor, const QString& hesapKod);
+std::optional<QString> MalzAdGetir(Veritabani& genel, const QString& hesapKod);
 // The code of a picked unit name.
-std::optional<QString> UniteKodu(const QString& klasor, const QString& uniteAd);
+std::optional<QString> UniteKodu(Veritabani& genel, const QString& uniteAd);
 
 // The lines of all vouchers with one code or one description, and what came
 // in, went out and is left (Val of the quantity columns).
@@ -97,9 +98,9 @@ struct HareketListesi
 QStringList HareketBasliklari();
 QList<int> HareketGenislikleri();
 // Written-off lines are left out.
-HareketListesi HesapHareketListe(const QString& klasor, const QString& hesapKod);
+HareketListesi HesapHareketListe(Veritabani& ayniyat, const QString& hesapKod);
 // Written-off lines are counted.
-HareketListesi OzellikHareketListe(const QString& klasor, const QString& ozellik);
+HareketListesi OzellikHareketListe(Veritabani& ayniyat, const QString& ozellik);
 
 // The printed movement list under the line's code and name and the year of
 // the voucher date, with the total text at the foot.

@@ -3,6 +3,7 @@
 #include "bicim.h"
 #include "fis_satir.h"
 #include "kayit.h"
+#include "veri.h"
 
 #include <charconv>
 #include <cmath>
@@ -102,7 +103,7 @@ QString FisToplam::YazimUniteAdi(const QString& uniteAdi)
     return uniteAdi.isEmpty() ? QStringLiteral("false") : uniteAdi;
 }
 
-FisYazimi FisToplam::KayittanYazim(const QString& klasor, const QString& fisNo, const QString& fcins,
+FisYazimi FisToplam::KayittanYazim(Veri& veri, const QString& fisNo, const QString& fcins,
                                    const QString& yil, QString* harfHatasi)
 {
     FisYazimi yazim;
@@ -111,9 +112,9 @@ FisYazimi FisToplam::KayittanYazim(const QString& klasor, const QString& fisNo, 
     fis.FCins = fcins;
     fis.Hangi = fcins;
     fis.CalisYil = yil;
-    if (!FisKayit::Getir(klasor, fis))
+    if (!FisKayit::Getir(veri.Ayniyat(), fis))
         throw Hata(QStringLiteral("%1 nolu fiş bulunamadı.").arg(fisNo));
-    const FisSatirlari satirlar = FisKayit::SatirlariGetir(klasor, fis.FisNo, fcins, yil);
+    const FisSatirlari satirlar = FisKayit::SatirlariGetir(veri.Ayniyat(), veri.Genel(), fis.FisNo, fcins, yil);
     fis.Satirlar = satirlar.hucreler;
     yazim.IslemAd = satirlar.islemAdlari.value(0);
     yazim.UniteAd2 = YazimUniteAdi(satirlar.uniteAdlari.value(0));

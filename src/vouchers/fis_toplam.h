@@ -4,6 +4,8 @@
 
 #include <optional>
 
+class Veri;
+
 // The totals of a voucher. None of them is stored: they are worked out from
 // the quantity, price and rate of the lines whenever they are asked for.
 namespace FisToplam {
@@ -44,7 +46,7 @@ QString YazimUniteAdi(const QString& uniteAdi);
 // saved. A wording failure leaves HarfYazma empty and its reason in
 // `harfHatasi`. Throws Hata when there is no such voucher, VeriHatasi when
 // the data cannot be read.
-FisYazimi KayittanYazim(const QString& klasor, const QString& fisNo, const QString& fcins, const QString& yil,
+FisYazimi KayittanYazim(Veri& veri, const QString& fisNo, const QString& fcins, const QString& yil,
                         QString* harfHatasi = nullptr);
 
 }

@@ -26,7 +26,7 @@ FisYaz::FisYaz(const CalismaBaglami& baglam, const FisYazimi& yazim, QWidget* eb
 
     // Without the constants row the form is printed with its fields empty.
     SabitSatiri sabit;
-    Komut([&] { sabit = SabitKayit::Getir(Baglam().Klasor).value_or(SabitSatiri()); });
+    Komut([&] { sabit = SabitKayit::Getir(Genel()).value_or(SabitSatiri()); });
     SayfaGoster(FisSayfasi(m_yazim, sabit));
 }
 

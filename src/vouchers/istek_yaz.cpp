@@ -8,6 +8,6 @@ IstekYaz::IstekYaz(const CalismaBaglami& baglam, const FisYazimi& yazim, QWidget
 {
     SabitSatiri sabit;
     // Without the constants the slip still shows the voucher's own texts.
-    Komut([&] { sabit = SabitKayit::Getir(Baglam().Klasor).value_or(SabitSatiri()); });
+    Komut([&] { sabit = SabitKayit::Getir(Genel()).value_or(SabitSatiri()); });
     SayfaGoster(IstekSayfasi(yazim, sabit));
 }

@@ -207,8 +207,8 @@ bool Malzeme_L::eventFilter(QObject* nesne, QEvent* olay)
             const QString metin = c->currentText();
             QStringList ogeler;
             Komut([&] {
-                ogeler = c == Ozellik4 ? MalzemeListesi::Ozellikler(Baglam().Klasor)
-                                       : MalzemeListesi::NeredenGeldiler(Baglam().Klasor);
+                ogeler = c == Ozellik4 ? MalzemeListesi::Ozellikler(Ayniyat())
+                                       : MalzemeListesi::NeredenGeldiler(Ayniyat());
             });
             const QSignalBlocker dur(c);
             c->clear();
@@ -268,8 +268,7 @@ void Malzeme_L::Liste()
     Durum(QString());
     Komut([&] {
         const MalzemeListesi::Komut komut = MalzemeListesi::Liste(k);
-        Veritabani vt(Baglam().Klasor, Dosya::Ayniyat);
-        T->Doldur(vt, komut.sql, komut.degerler);
+        T->Doldur(Ayniyat(), komut.sql, komut.degerler);
     });
     Picture1->hide();
     if (const auto boy = MalzemeListesi::YaziBoyu(YaziBoy->text())) {
@@ -292,8 +291,8 @@ void Malzeme_L::SatirBilgisi()
     if (satir < 1)
         return;
     Komut([&] {
-        T->HucreYaz(satir, 0, MalzemeListesi::SinifAdi(Baglam().Klasor, T->TextMatrix(satir, 2)));
-        T2->Satirlar({MalzemeListesi::Toplamlar(Baglam().Klasor, T->TextMatrix(satir, 1))});
+        T->HucreYaz(satir, 0, MalzemeListesi::SinifAdi(Genel(), T->TextMatrix(satir, 2)));
+        T2->Satirlar({MalzemeListesi::Toplamlar(Ayniyat(), T->TextMatrix(satir, 1))});
     });
 }
 

@@ -40,9 +40,8 @@ QString hasarKuyrugu(const Kosullar& k)
     return kuyruk;
 }
 
-QStringList tekSutun(const QString& sql, const QString& klasor)
+QStringList tekSutun(const QString& sql, Veritabani& vt)
 {
-    Veritabani vt(klasor, Dosya::Ayniyat);
     QStringList ogeler;
     for (const QStringList& satir : vt.Satirlar(sql))
         ogeler << satir.value(0);
@@ -103,16 +102,14 @@ QList<int> Genislikler()
     return {2200, 2600, 1600, 1100, 900, 900, 900, 800, 1100, 800, 1800, 1100, 600};
 }
 
-QString SinifAdi(const QString& klasor, const QString& hesapKod)
+QString SinifAdi(Veritabani& vt, const QString& hesapKod)
 {
-    Veritabani vt(klasor, Dosya::Genel);
     QSqlQuery q = vt.Sorgu(QStringLiteral("Select MalzAdi, HesapKod from URUN_K where HesapKod = ? "), {hesapKod});
     return q.next() ? q.value(0).toString() : QString();
 }
 
-QStringList Toplamlar(const QString& klasor, const QString& ozellik)
+QStringList Toplamlar(Veritabani& vt, const QString& ozellik)
 {
-    Veritabani vt(klasor, Dosya::Ayniyat);
     QSqlQuery q = vt.Sorgu(QStringLiteral("Select ' Gelen :',Sum(val(Miktar)),'   Çıkan :',Sum(val(cikan)),"
                                           "'   Kalan :',Sum(val(Miktar) - val(cikan)) From FIS  Where Ozellik = ? "),
                            {ozellik});
@@ -123,15 +120,15 @@ QStringList Toplamlar(const QString& klasor, const QString& ozellik)
     return hucreler;
 }
 
-QStringList Ozellikler(const QString& klasor)
+QStringList Ozellikler(Veritabani& vt)
 {
     // One item per description: the lines repeat them by the thousand.
-    return tekSutun(QStringLiteral("Select DISTINCT Ozellik from FIS ORDER BY Ozellik"), klasor);
+    return tekSutun(QStringLiteral("Select DISTINCT Ozellik from FIS ORDER BY Ozellik"), vt);
 }
 
-QStringList NeredenGeldiler(const QString& klasor)
+QStringList NeredenGeldiler(Veritabani& vt)
 {
-    return tekSutun(QStringLiteral("Select NeredenGeldigi From FIS_B Order by NeredenGeldigi"), klasor);
+    return tekSutun(QStringLiteral("Select NeredenGeldigi From FIS_B Order by NeredenGeldigi"), vt);
 }
 
 std::optional<int> YaziBoyu(const QString& metin)

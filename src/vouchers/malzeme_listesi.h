@@ -8,6 +8,7 @@
 #include <optional>
 
 class Izgara;
+class Veritabani;
 class Yazici;
 
 // The list of voucher lines over all vouchers ("Malzeme Liste"): what it
@@ -54,16 +55,16 @@ QStringList Basliklar();
 QList<int> Genislikler();
 
 // The class name of a code from URUN_K; empty when there is none.
-QString SinifAdi(const QString& klasor, const QString& hesapKod);
+QString SinifAdi(Veritabani& genel, const QString& hesapKod);
 
 // The totals of one description as the one-row grid shows them:
 // " Gelen :", in, "   Çıkan :", out, "   Kalan :", in less out.
-QStringList Toplamlar(const QString& klasor, const QString& ozellik);
+QStringList Toplamlar(Veritabani& ayniyat, const QString& ozellik);
 
 // The items of the exact-match combos; an empty result gives the one item
 // "  Kayıt Bulunamadı .. ".
-QStringList Ozellikler(const QString& klasor);
-QStringList NeredenGeldiler(const QString& klasor);
+QStringList Ozellikler(Veritabani& ayniyat);
+QStringList NeredenGeldiler(Veritabani& ayniyat);
 
 // The grid's font size from the YaziBoy box; nothing when it is no size.
 std::optional<int> YaziBoyu(const QString& metin);

@@ -1,6 +1,7 @@
 #include "sayfa_ekrani.h"
 
 #include "sayfa_gorunumu.h"
+#include "veri.h"
 #include "veri_klasoru.h"
 #include "yazici.h"
 
@@ -54,7 +55,7 @@ void SayfaEkrani::Yazdir()
 
 void SayfaEkrani::ResimYukle()
 {
-    const QString yol = VeriKlasoru::DosyaYolu(Baglam().Klasor, QStringLiteral("FisY1.BMP"));
+    const QString yol = VeriKlasoru::DosyaYolu(Baglam().Veriler->Klasor(), QStringLiteral("FisY1.BMP"));
     QImage resim(yol);
     if (resim.isNull()) {
         Bildir(QStringLiteral("Form resmi okunamadı: %1").arg(yol), windowTitle(), QMessageBox::Critical);

@@ -8,6 +8,6 @@ ZimmetYaz::ZimmetYaz(const CalismaBaglami& baglam, const FisYazimi& yazim, QWidg
 {
     SabitSatiri sabit;
     // Without the constants the slip still shows the voucher's own texts.
-    Komut([&] { sabit = SabitKayit::Getir(Baglam().Klasor).value_or(SabitSatiri()); });
+    Komut([&] { sabit = SabitKayit::Getir(Genel()).value_or(SabitSatiri()); });
     SayfaGoster(ZimmetSayfasi(yazim, sabit));
 }

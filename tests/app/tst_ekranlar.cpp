@@ -6,6 +6,7 @@
 #include "sinif_tani.h"
 #include "veritabani.h"
 #include "veri_klasoru.h"
+#include "veri.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -48,8 +49,8 @@ private slots:
     void sabitKaydiMenununYiliniHemenDegistirir()
     {
         QTemporaryDir tmp;
-        VeriKlasoru::Hazirla(tmp.path());
-        Menu menu(tmp.path());
+        Veri veri(tmp.path());
+        Menu menu(veri);
         EkranlariTanimla(menu);
         menu.show();
         QCOMPARE(menu.CalisYil->text(), QStringLiteral("2026"));
@@ -92,8 +93,8 @@ private slots:
     void fisEkraniMenuKipleriyleAcilir()
     {
         QTemporaryDir tmp;
-        VeriKlasoru::Hazirla(tmp.path());
-        Menu menu(tmp.path());
+        Veri veri(tmp.path());
+        Menu menu(veri);
         EkranlariTanimla(menu);
         menu.show();
 
@@ -118,7 +119,7 @@ private slots:
         auto* hesKod = fis->findChild<QComboBox*>(QStringLiteral("HesKod"));
         const int once = hesKod->count();
         {
-            Veritabani vt(tmp.path(), Dosya::Genel);
+            Veritabani& vt = veri.Baglanti(Dosya::Genel);
             vt.Calistir(QStringLiteral("insert into URUN_K (HesapKod, MalzAdi) values ('150 01 01 001', 'Kağıt')"));
         }
         QTest::mouseClick(menu.Dugme(QStringLiteral("Command5")), Qt::LeftButton);

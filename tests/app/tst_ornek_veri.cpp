@@ -2,6 +2,7 @@
 #include "saat.h"
 #include "veri_klasoru.h"
 #include "veritabani.h"
+#include "veri.h"
 
 #include <QHash>
 #include <QSet>
@@ -41,8 +42,9 @@ QSet<QString> kume(Veritabani& vt, const QString& sql)
 
 QStringList dokum(const QString& klasor)
 {
-    Veritabani genel(klasor, Dosya::Genel);
-    Veritabani ayniyat(klasor, Dosya::Ayniyat);
+    Veri veri(klasor);
+    Veritabani& genel = veri.Genel();
+    Veritabani& ayniyat = veri.Ayniyat();
     QStringList liste;
     for (const char* tablo : {"Sabit", "URUN_K", "Unite_K", "Firma_K"})
         liste += satirlar(genel, QStringLiteral("select * from %1 order by rowid").arg(QLatin1String(tablo)));
@@ -78,8 +80,14 @@ private slots:
 void TstOrnekVeri::ayniGirdiAyniSatirlar()
 {
     QTemporaryDir bir, iki;
-    OrnekVeriYaz(bir.path(), 2000);
-    OrnekVeriYaz(iki.path(), 2000);
+    {
+        Veri v(bir.path());
+        OrnekVeriYaz(v, 2000);
+    }
+    {
+        Veri v(iki.path());
+        OrnekVeriYaz(v, 2000);
+    }
     const QStringList ilk = dokum(bir.path());
     QVERIFY(ilk.size() > 2000);
     QCOMPARE(dokum(iki.path()), ilk);
@@ -98,9 +106,14 @@ void TstOrnekVeri::satirSayisi()
 {
     QFETCH(int, satir);
     QTemporaryDir dizin;
-    OrnekVeriYaz(dizin.path(), satir);
-    Veritabani genel(dizin.path(), Dosya::Genel);
-    Veritabani ayniyat(dizin.path(), Dosya::Ayniyat);
+    {
+        Veri v(dizin.path());
+        OrnekVeriYaz(v, satir);
+    }
+    Veri verigenel(dizin.path());
+    Veritabani& genel = verigenel.Baglanti(Dosya::Genel);
+    Veri veriayniyat(dizin.path());
+    Veritabani& ayniyat = veriayniyat.Baglanti(Dosya::Ayniyat);
     QCOMPARE(sayi(ayniyat, QStringLiteral("select count(*) from FIS")), satir);
     const int fisler = sayi(ayniyat, QStringLiteral("select count(*) from FIS_B"));
     QVERIFY(fisler >= (satir + 24) / 25 && fisler <= satir);
@@ -127,8 +140,12 @@ void TstOrnekVeri::tarihlerVeNumaralar()
     QFETCH(QDate, bugun);
     Saat::Ayarla(bugun);
     QTemporaryDir dizin;
-    OrnekVeriYaz(dizin.path(), 3000);
-    Veritabani vt(dizin.path(), Dosya::Ayniyat);
+    {
+        Veri v(dizin.path());
+        OrnekVeriYaz(v, 3000);
+    }
+    Veri verivt(dizin.path());
+    Veritabani& vt = verivt.Baglanti(Dosya::Ayniyat);
 
     const QSet<QString> yillar = kume(vt, QStringLiteral("select distinct Mid(Tarih,7,4) from FIS"));
     QSet<QString> beklenen;
@@ -164,8 +181,12 @@ void TstOrnekVeri::tarihlerVeNumaralar()
 void TstOrnekVeri::stokHicEksiyeDusmez()
 {
     QTemporaryDir dizin;
-    OrnekVeriYaz(dizin.path(), 20000);
-    Veritabani vt(dizin.path(), Dosya::Ayniyat);
+    {
+        Veri v(dizin.path());
+        OrnekVeriYaz(v, 20000);
+    }
+    Veri verivt(dizin.path());
+    Veritabani& vt = verivt.Baglanti(Dosya::Ayniyat);
     QVERIFY(sayi(vt, QStringLiteral("select count(*) from FIS where FCins = 'C'")) > 1000);
 
     QSqlQuery sorgu = vt.Sorgu(QStringLiteral("select TarihSayi(Tarih), HesapKod, val(Miktar) - val(Cikan)"
@@ -198,9 +219,14 @@ void TstOrnekVeri::stokHicEksiyeDusmez()
 void TstOrnekVeri::kodlarTanimli()
 {
     QTemporaryDir dizin;
-    OrnekVeriYaz(dizin.path(), 3000);
-    Veritabani genel(dizin.path(), Dosya::Genel);
-    Veritabani ayniyat(dizin.path(), Dosya::Ayniyat);
+    {
+        Veri v(dizin.path());
+        OrnekVeriYaz(v, 3000);
+    }
+    Veri verigenel(dizin.path());
+    Veritabani& genel = verigenel.Baglanti(Dosya::Genel);
+    Veri veriayniyat(dizin.path());
+    Veritabani& ayniyat = veriayniyat.Baglanti(Dosya::Ayniyat);
 
     const QSet<QString> siniflar = kume(genel, QStringLiteral("select HesapKod || '|' || Birimi || '|' || KDV1"
                                                               " from URUN_K"));
@@ -292,16 +318,24 @@ void TstOrnekVeri::fisKurallari()
 {
     QFETCH(QString, ihlal);
     QTemporaryDir dizin;
-    OrnekVeriYaz(dizin.path(), 3000);
-    Veritabani vt(dizin.path(), Dosya::Ayniyat);
+    {
+        Veri v(dizin.path());
+        OrnekVeriYaz(v, 3000);
+    }
+    Veri verivt(dizin.path());
+    Veritabani& vt = verivt.Baglanti(Dosya::Ayniyat);
     QCOMPARE(sayi(vt, ihlal), 0);
 }
 
 void TstOrnekVeri::sabitlerYazilir()
 {
     QTemporaryDir dizin;
-    OrnekVeriYaz(dizin.path(), 10);
-    Veritabani vt(dizin.path(), Dosya::Genel);
+    {
+        Veri v(dizin.path());
+        OrnekVeriYaz(v, 10);
+    }
+    Veri verivt(dizin.path());
+    Veritabani& vt = verivt.Baglanti(Dosya::Genel);
     QCOMPARE(satirlar(vt, QStringLiteral("select Anahtar, CalisYil, CalisAy, KDV1, DamgaOran1, AyniyatMemuru2"
                                          " from Sabit")),
              QStringList{QStringLiteral("1|2025|6|20|0,948|Mehmet Kaya")});
@@ -332,15 +366,22 @@ void TstOrnekVeri::doluKlasorReddedilir()
     QFETCH(QString, ekle);
     QTemporaryDir dizin;
     if (ekle.isEmpty()) {
-        OrnekVeriYaz(dizin.path(), 50);
+        {
+            Veri v(dizin.path());
+            OrnekVeriYaz(v, 50);
+        }
     } else {
         VeriKlasoru::Hazirla(dizin.path());
-        Veritabani vt(dizin.path(), tablo == QLatin1String("URUN_K") ? Dosya::Genel : Dosya::Ayniyat);
+        Veri verivt(dizin.path());
+    Veritabani& vt = verivt.Baglanti(tablo == QLatin1String("URUN_K") ? Dosya::Genel : Dosya::Ayniyat);
         vt.Calistir(ekle);
     }
     const QStringList once = dokum(dizin.path());
     try {
-        OrnekVeriYaz(dizin.path(), 50);
+        {
+            Veri v(dizin.path());
+            OrnekVeriYaz(v, 50);
+        }
         QFAIL("dolu klasöre yazdı");
     } catch (const VeriHatasi& hata) {
         QVERIFY2(hata.Mesaj().startsWith(QStringLiteral("Örnek veri yalnız boş bir veri klasörüne yazılır: ")),

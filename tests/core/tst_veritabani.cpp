@@ -4,12 +4,15 @@
 #include "tek_deger.h"
 #include "veri_klasoru.h"
 #include "veritabani.h"
+#include "veri.h"
 
 #include <QDir>
 #include <QFile>
 #include <QSqlRecord>
 #include <QTemporaryDir>
 #include <QtTest>
+
+using namespace Qt::StringLiterals;
 
 class TstVeritabani : public QObject
 {
@@ -39,11 +42,11 @@ private slots:
     {
         QTemporaryDir tmp;
         const QString klasor = tmp.filePath(QStringLiteral("veri/alt"));
-        VeriKlasoru::Hazirla(klasor);
+        Veri veri(klasor);
         for (const char* ad : {"GENEL.MDB", "AYNIYAT.MDB", "HESAPKOD.MDB", "OKUL.MDB", "Sirket.dat"})
             QVERIFY2(QFile::exists(QDir(klasor).filePath(QString::fromLatin1(ad))), ad);
 
-        Veritabani genel(klasor, Dosya::Genel);
+        Veritabani& genel = veri.Baglanti(Dosya::Genel);
         QCOMPARE(tek(genel, QStringLiteral("select count(*) from Sabit")).toInt(), 1);
         QSqlQuery sabit = genel.Sorgu(QStringLiteral("Select * from Sabit where Anahtar = 1 "));
         QVERIFY(sabit.next());
@@ -67,7 +70,7 @@ private slots:
                                .toInt();
         QVERIFY(duzey2 > 40);
 
-        Veritabani hk(klasor, Dosya::HesapKod);
+        Veritabani& hk = veri.Baglanti(Dosya::HesapKod);
         QCOMPARE(tek(hk, QStringLiteral("select count(*) from HesapKod1")).toInt(), plan.size());
         QSqlQuery alanlar = hk.Sorgu(QStringLiteral("select Alan1, Alan2, Alan3, Alan4, Alan7 from HesapKod1 "
                                                     "where Alan1 = '150' and Alan2 = '01' and Alan3 = '04'"));
@@ -79,7 +82,7 @@ private slots:
                            QStringLiteral(" where HesapKod = ?"), {QStringLiteral("255 01 01")}),
                  QStringLiteral("Bilgisayarlar ve Çevre Birimleri"));
 
-        Veritabani ayniyat(klasor, Dosya::Ayniyat);
+        Veritabani& ayniyat = veri.Baglanti(Dosya::Ayniyat);
         const QStringList fis = sutunlar(ayniyat, QStringLiteral("FIS"));
         for (const char* alan : {"Tarih", "FisNo", "FCinss", "Satir", "SicilNo", "Miktar", "Cikan", "KDV",
                                  "KimeVerildigi", "KabulTarih", "EsasDefAd", "AnaHesapNo"})
@@ -92,9 +95,9 @@ private slots:
         QVERIFY(plan1.next());
         QVERIFY2(plan1.value(3).toString().contains(QStringLiteral("INDEX")), qPrintable(plan1.value(3).toString()));
 
-        Veritabani sirket(klasor, Dosya::Sirket);
+        Veritabani& sirket = veri.Baglanti(Dosya::Sirket);
         QVERIFY(tek(sirket, QStringLiteral("select count(*) from Cari_T")).toInt() >= 5);
-        Veritabani okul(klasor, Dosya::Okul);
+        Veritabani& okul = veri.Baglanti(Dosya::Okul);
         QVERIFY(sutunlar(okul, QStringLiteral("CariHesap_Hareket")).contains(QStringLiteral("ALACAK")));
     }
 
@@ -102,14 +105,15 @@ private slots:
     {
         QTemporaryDir tmp;
         {
-            Veritabani vt(tmp.path(), Dosya::Genel);
+            Veri veri(tmp.path());
+            Veritabani& vt = veri.Baglanti(Dosya::Genel);
             vt.Calistir(QStringLiteral("update Sabit set KurumAdi = ?"), {QStringLiteral("Deneme")});
         }
         QVERIFY(QFile::rename(tmp.filePath(QStringLiteral("GENEL.MDB")), tmp.filePath(QStringLiteral("genel.mdb"))));
         QVERIFY(QFile::rename(tmp.filePath(QStringLiteral("GENEL.MDB")), tmp.filePath(QStringLiteral("x"))) == false);
-        VeriKlasoru::Hazirla(tmp.path());
+        Veri veri(tmp.path());
         QVERIFY(!QDir(tmp.path()).entryList().contains(QStringLiteral("GENEL.MDB")));
-        Veritabani vt(tmp.path(), Dosya::Genel);
+        Veritabani& vt = veri.Baglanti(Dosya::Genel);
         QCOMPARE(vt.Yol(), tmp.filePath(QStringLiteral("genel.mdb")));
         QCOMPARE(AlanGetir(vt, QStringLiteral("Sabit"), QStringLiteral("KurumAdi")), QStringLiteral("Deneme"));
     }
@@ -146,7 +150,7 @@ private slots:
         once.close();
 
         try {
-            VeriKlasoru::Hazirla(tmp.path());
+            Veri veri(tmp.path());
             QFAIL("yabancı dosya kabul edildi");
         } catch (const VeriHatasi& h) {
             QVERIFY2(h.Mesaj().contains(QStringLiteral("bu programın veri dosyası değil")), qPrintable(h.Mesaj()));
@@ -154,6 +158,53 @@ private slots:
         QFile sonra(yol);
         QVERIFY(sonra.open(QIODevice::ReadOnly));
         QCOMPARE(sonra.readAll(), onceki);
+    }
+
+    // Only a new, empty folder gets new files; in a folder that holds data a
+    // missing or empty file is named and nothing is made in its place.
+    void eksikDosyaYerineYenisiYapilmaz_data()
+    {
+        QTest::addColumn<QString>("eksik");
+        QTest::addColumn<bool>("bosDosya");
+        QTest::addColumn<bool>("yalnizKopya");
+        QTest::newRow("AYNIYAT yok") << u"AYNIYAT.MDB"_s << false << false;
+        QTest::newRow("GENEL boş") << u"GENEL.MDB"_s << true << false;
+        QTest::newRow("yalnız aylık kopya") << u"AYNIYAT.MDB"_s << false << true;
+    }
+
+    void eksikDosyaYerineYenisiYapilmaz()
+    {
+        QFETCH(QString, eksik);
+        QFETCH(bool, bosDosya);
+        QFETCH(bool, yalnizKopya);
+        QTemporaryDir tmp;
+        { Veri veri(tmp.path()); }
+        QVERIFY(QFile::copy(tmp.filePath(u"AYNIYAT.MDB"_s), tmp.filePath(u"ayniyat11.mdb"_s)));
+        if (yalnizKopya)
+            for (const char* ad : {"GENEL.MDB", "HESAPKOD.MDB", "OKUL.MDB", "Sirket.dat"})
+                QVERIFY(QFile::remove(tmp.filePath(QString::fromLatin1(ad))));
+        QVERIFY(QFile::remove(tmp.filePath(eksik)));
+        if (bosDosya)
+            QFile(tmp.filePath(eksik)).open(QIODevice::WriteOnly);
+        const QStringList once = QDir(tmp.path()).entryList(QDir::Files);
+        try {
+            Veri veri(tmp.path());
+            QFAIL("eksik dosya sessizce yeniden yapıldı");
+        } catch (const EksikDosyaHatasi& h) {
+            QVERIFY(h.Eksikler().contains(eksik == u"GENEL.MDB"_s ? Dosya::Genel : Dosya::Ayniyat));
+            QVERIFY2(h.Mesaj().contains(eksik), qPrintable(h.Mesaj()));
+        }
+        QCOMPARE(QDir(tmp.path()).entryList(QDir::Files), once);
+        QCOMPARE(QFileInfo(tmp.filePath(eksik)).size(), 0);
+
+        // With the user's yes the file is made whole, with its tables.
+        VeriKlasoru::Olustur(tmp.path(), {eksik == u"GENEL.MDB"_s ? Dosya::Genel : Dosya::Ayniyat});
+        if (!yalnizKopya) {
+            Veri veri(tmp.path());
+            QCOMPARE(tek(veri.Genel(), u"select count(*) from Sabit"_s).toInt(), 1);
+            QCOMPARE(tek(veri.Ayniyat(), u"select count(*) from FIS"_s).toInt(), 0);
+        }
+        QVERIFY(!QFile::exists(tmp.filePath(eksik + u".yeni"_s)));
     }
 
     void yazilamayanKlasorAcikcaSoylenir()
@@ -182,7 +233,8 @@ private slots:
     void islemYaHepYaHic()
     {
         QTemporaryDir tmp;
-        Veritabani vt(tmp.path(), Dosya::Ayniyat);
+        Veri veri(tmp.path());
+        Veritabani& vt = veri.Baglanti(Dosya::Ayniyat);
         try {
             Islem islem(vt);
             vt.Calistir(QStringLiteral("insert into FIS_B (FisNo, FCins, Tarih) values (?, ?, ?)"),
@@ -206,7 +258,8 @@ private slots:
     void tekDegerSorgulari()
     {
         QTemporaryDir tmp;
-        Veritabani vt(tmp.path(), Dosya::Genel);
+        Veri veri(tmp.path());
+        Veritabani& vt = veri.Baglanti(Dosya::Genel);
         QCOMPARE(EnBuyukSayi(vt, QStringLiteral("Unite_K"), QStringLiteral("UniteKod")), 0.0);
         QCOMPARE(AlanGetir(vt, QStringLiteral("Unite_K"), QStringLiteral("UniteAd")), QString());
         QCOMPARE(EnBuyukMetin(vt, QStringLiteral("Unite_K"), QStringLiteral("UniteKod")), QString());
@@ -282,7 +335,8 @@ private slots:
         QFETCH(QString, ifade);
         QFETCH(QVariant, beklenen);
         QTemporaryDir tmp;
-        Veritabani vt(tmp.path(), Dosya::Sirket);
+        Veri veri(tmp.path());
+        Veritabani& vt = veri.Baglanti(Dosya::Sirket);
         const QVariant sonuc = tek(vt, QStringLiteral("select ") + ifade);
         if (beklenen.typeId() == QMetaType::QString)
             QCOMPARE(sonuc.toString(), beklenen.toString());
@@ -293,7 +347,8 @@ private slots:
     void turkceSiralamaVeEsitlik()
     {
         QTemporaryDir tmp;
-        Veritabani vt(tmp.path(), Dosya::Genel);
+        Veri veri(tmp.path());
+        Veritabani& vt = veri.Baglanti(Dosya::Genel);
         const QStringList adlar = {QStringLiteral("zarf"),   QStringLiteral("Üniforma"), QStringLiteral("çanta"),
                                    QStringLiteral("Cetvel"), QStringLiteral("ılık"),     QStringLiteral("İğne"),
                                    QStringLiteral("Dosya"),  QStringLiteral("şişe"),     QStringLiteral("Sabun"),
@@ -325,7 +380,8 @@ private slots:
     void okuyanListeYaziciyiBeklemez()
     {
         QTemporaryDir tmp;
-        Veritabani liste(tmp.path(), Dosya::Ayniyat);
+        Veri veri(tmp.path());
+        Veritabani& liste = veri.Baglanti(Dosya::Ayniyat);
         {
             Islem islem(liste);
             for (int i = 1; i <= 500; ++i)
@@ -335,7 +391,7 @@ private slots:
         // A list that has read only its first rows keeps its statement open.
         QSqlQuery okunan = liste.Sorgu(QStringLiteral("select FisNo from FIS order by FisNo"));
         QVERIFY(okunan.next());
-        Veritabani kayit(tmp.path(), Dosya::Ayniyat);
+        Veritabani kayit(liste.Yol());
         {
             Islem islem(kayit);
             kayit.Calistir(QStringLiteral("delete from FIS where FisNo = 500"));
@@ -350,7 +406,8 @@ private slots:
     void tarihCercevesi()
     {
         QTemporaryDir tmp;
-        Veritabani vt(tmp.path(), Dosya::Ayniyat);
+        Veri veri(tmp.path());
+        Veritabani& vt = veri.Baglanti(Dosya::Ayniyat);
         for (const char* t : {"31.12.2025", "01.01.2026", "15.02.2026", "28.02.2026", "01.03.2026", ""})
             vt.Calistir(QStringLiteral("insert into FIS (Tarih, FisNo) values (?, 1)"), {QString::fromLatin1(t)});
         QCOMPARE(tek(vt, QStringLiteral("select count(*) from FIS where TarihSayi(Tarih) >= ? and TarihSayi(Tarih) <= ?"),

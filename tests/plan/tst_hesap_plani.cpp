@@ -8,6 +8,7 @@
 #include "sema.h"
 #include "veritabani.h"
 #include "yazici.h"
+#include "veri.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -30,14 +31,23 @@ class TstHesapPlani : public QObject
     Q_OBJECT
 
     std::unique_ptr<QTemporaryDir> m_tmp;
+
+    mutable std::unique_ptr<Veri> m_veri;
     QPointer<HESAP_K> m_ekran;
 
+    // The folder's files, opened at first use.
+    Veri& veri() const
+    {
+        if (!m_veri)
+            m_veri = std::make_unique<Veri>(klasor());
+        return *m_veri;
+    }
     QString klasor() const { return m_tmp->path(); }
 
     // The first column of a statement on GENEL.MDB.
     QStringList sql(const QString& komut, const QVariantList& degerler = {})
     {
-        Veritabani vt(klasor(), Dosya::Genel);
+        Veritabani& vt = veri().Baglanti(Dosya::Genel);
         QSqlQuery q = vt.Sorgu(komut, degerler);
         QStringList sonuc;
         while (q.isSelect() && q.next())
@@ -63,7 +73,7 @@ class TstHesapPlani : public QObject
     void ac()
     {
         planKur();
-        m_ekran = new HESAP_K({u"2026"_s, u"3"_s, u"Okul"_s, klasor()});
+        m_ekran = new HESAP_K({u"2026"_s, u"3"_s, u"Okul"_s, &veri()});
         m_ekran->show();
         Etkinlestir(m_ekran);
     }
@@ -89,7 +99,11 @@ class TstHesapPlani : public QObject
     }
 
 private slots:
-    void init() { m_tmp = std::make_unique<QTemporaryDir>(); }
+    void init()
+    {
+        m_veri.reset();
+        m_tmp = std::make_unique<QTemporaryDir>();
+    }
     void cleanup() { delete m_ekran; }
 
     void liste_data()
@@ -114,7 +128,7 @@ private slots:
         QFETCH(QString, adSuzgeci);
         QFETCH(Sira, sira);
         planKur();
-        QTEST(kodlar(HesapPlani::Liste(klasor(), kodSuzgeci, adSuzgeci, sira)), "beklenen");
+        QTEST(kodlar(HesapPlani::Liste(veri().Genel(), kodSuzgeci, adSuzgeci, sira)), "beklenen");
     }
 
     // The level tests consumers run, on the plan a new data folder gets.
@@ -159,17 +173,17 @@ private slots:
         QFETCH(QString, ad);
         QFETCH(QString, saklanan);
         QFETCH(QString, adSuzgeci);
-        HesapPlani::Kaydet(klasor(), kod, ad);
+        HesapPlani::Kaydet(veri().Genel(), kod, ad);
         // Each passes the level 1 test, which reads fixed positions only.
         QTEST(sql(QStringLiteral("select Mid(HesapKod,5,2) from HESAP_K where HesapKod = ? and "
                                  "Mid(HesapKod,6,1) <> '' and Mid(HesapKod,8,1) = ''"),
                   {saklanan})
                   .value(0),
               "grup");
-        QCOMPARE(HesapPlani::Getir(klasor(), kod), std::optional<QString>(ad.trimmed()));
-        QCOMPARE(HesapPlani::Liste(klasor(), {}, adSuzgeci, Sira::HesapKod),
+        QCOMPARE(HesapPlani::Getir(veri().Genel(), kod), std::optional<QString>(ad.trimmed()));
+        QCOMPARE(HesapPlani::Liste(veri().Genel(), {}, adSuzgeci, Sira::HesapKod),
                  (QList<QStringList>{{saklanan, ad.trimmed()}}));
-        QCOMPARE(HesapPlani::Getir(klasor(), u"999 99"_s), std::nullopt);
+        QCOMPARE(HesapPlani::Getir(veri().Genel(), u"999 99"_s), std::nullopt);
     }
 
     // The delete takes the code untrimmed; nothing under the code goes with it.
@@ -185,10 +199,10 @@ private slots:
         QFETCH(QString, kod);
         planKur();
         sql(u"insert into URUN_K (HesapKod, MalzAdi) values ('150 02 01 001', 'Vazo')"_s);
-        QVERIFY(HesapPlani::Var(klasor(), kod));
-        HesapPlani::Sil(klasor(), kod);
-        QTEST(HesapPlani::Var(klasor(), kod), "kalir");
-        QCOMPARE(HesapPlani::Getir(klasor(), u"150 02 01"_s), std::optional<QString>("Dolap"));
+        QVERIFY(HesapPlani::Var(veri().Genel(), kod));
+        HesapPlani::Sil(veri().Genel(), kod);
+        QTEST(HesapPlani::Var(veri().Genel(), kod), "kalir");
+        QCOMPARE(HesapPlani::Getir(veri().Genel(), u"150 02 01"_s), std::optional<QString>("Dolap"));
         QCOMPARE(sql(u"select MalzAdi from URUN_K where Mid(HesapKod,1,6) = '150 02'"_s),
                  QStringList{"Vazo"});
     }
@@ -327,7 +341,7 @@ private slots:
         tus(Qt::Key_F1);
         QCOMPARE(m_ekran->DurumSatiri()->text(), u"    Kayıt Başarılı  ..  "_s);
         QVERIFY(m_ekran->DurumSatiri()->isVisible());
-        QCOMPARE(HesapPlani::Getir(klasor(), u"150 09"_s), std::optional<QString>(u"Yeni Sınıf"_s));
+        QCOMPARE(HesapPlani::Getir(veri().Genel(), u"150 09"_s), std::optional<QString>(u"Yeni Sınıf"_s));
         QVERIFY(!izgaraKodlari().contains(u"150 09"_s));  // a save leaves the list as it was
         tus(Qt::Key_F3);
         QVERIFY(izgaraKodlari().contains(u"150 09"_s));
@@ -360,7 +374,7 @@ private slots:
             QCOMPARE(y.Metin(), u" Bu Hesap No yu Silmek istiyor musunuz ?"_s);
             QCOMPARE(y.Baslik(), u"Siliniyor"_s);
             const bool kalir = cevap == u"Hayır";
-            QCOMPARE(HesapPlani::Var(klasor(), u"253 01"_s), kalir);
+            QCOMPARE(HesapPlani::Var(veri().Genel(), u"253 01"_s), kalir);
             QCOMPARE(metin("HesapKod").isEmpty() && metin("HesapAd").isEmpty(), !kalir);
         }
     }
@@ -383,7 +397,7 @@ private slots:
     void ciftTiklamaVeF4()
     {
         ac();
-        HesapPlani::Kaydet(klasor(), u"0"_s, u"Sıfır"_s);
+        HesapPlani::Kaydet(veri().Genel(), u"0"_s, u"Sıfır"_s);
         tus(Qt::Key_F3);
         auto* t = kontrol<ListeIzgarasi>(u"T"_s);
         for (const int satir : {1, 3}) {

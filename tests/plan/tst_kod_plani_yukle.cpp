@@ -2,6 +2,7 @@
 #include "tek_deger.h"
 #include "veri_klasoru.h"
 #include "veritabani.h"
+#include "veri.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -29,10 +30,10 @@ private slots:
     void ekler_adlandirir_ve_aynisini_birakir()
     {
         QTemporaryDir tmp;
-        VeriKlasoru::Hazirla(tmp.path());
+        Veri veri(tmp.path());
         int plan = 0;
         {
-            Veritabani vt(tmp.path(), Dosya::Genel);
+            Veritabani& vt = veri.Baglanti(Dosya::Genel);
             plan = say(vt, QStringLiteral("HESAP_K"));
         }
         const QString yol = dosya(tmp, "150\tİlkmadde-Malzeme\n"
@@ -40,12 +41,12 @@ private slots:
                                        "150 01\tKırtasiye ve Büro Malzemeleri\n"
                                        "150 11\tOkul'un Özel Malzemeleri\n"
                                        "150 11 01\tKoro Kıyafetleri\n");
-        const KodPlaniSonucu sonuc = KodPlaniYukle(tmp.path(), yol);
+        const KodPlaniSonucu sonuc = KodPlaniYukle(veri, yol);
         QCOMPARE(sonuc.eklenen, 2);
         QCOMPARE(sonuc.adiDegisen, 1);
         QCOMPARE(sonuc.ayni, 1);
 
-        Veritabani genel(tmp.path(), Dosya::Genel);
+        Veritabani& genel = veri.Baglanti(Dosya::Genel);
         QCOMPARE(say(genel, QStringLiteral("HESAP_K")), plan + 2);
         QCOMPARE(AlanGetir(genel, QStringLiteral("HESAP_K"), QStringLiteral("HesapAd"),
                            QStringLiteral(" where HesapKod = ?"), {QStringLiteral("150 01")}),
@@ -60,7 +61,7 @@ private slots:
                            {QStringLiteral("150 11")}),
                  QStringLiteral("150 11 01"));
 
-        Veritabani hk(tmp.path(), Dosya::HesapKod);
+        Veritabani& hk = veri.Baglanti(Dosya::HesapKod);
         QCOMPARE(AlanGetir(hk, QStringLiteral("HesapKod2"), QStringLiteral("MalzAdi"),
                            QStringLiteral(" where HesapKod = ?"), {QStringLiteral("150 01")}),
                  QStringLiteral("Kırtasiye ve Büro Malzemeleri"));
@@ -94,15 +95,15 @@ private slots:
         QFETCH(QByteArray, icerik);
         QFETCH(QString, mesaj);
         QTemporaryDir tmp;
-        VeriKlasoru::Hazirla(tmp.path());
+        Veri veri(tmp.path());
         try {
-            KodPlaniYukle(tmp.path(), dosya(tmp, icerik));
+            KodPlaniYukle(veri, dosya(tmp, icerik));
             QFAIL("bozuk dosya yüklendi");
         } catch (const VeriHatasi& h) {
             QVERIFY2(h.Mesaj().startsWith(mesaj), qPrintable(h.Mesaj()));
             QVERIFY(h.Mesaj().endsWith(QStringLiteral("Hesap planına hiçbir şey yazılmadı.")));
         }
-        Veritabani vt(tmp.path(), Dosya::Genel);
+        Veritabani& vt = veri.Baglanti(Dosya::Genel);
         QCOMPARE(AlanGetir(vt, QStringLiteral("HESAP_K"), QStringLiteral("HesapAd"),
                            QStringLiteral(" where HesapKod = ?"), {QStringLiteral("150 01")}),
                  QStringLiteral("Kırtasiye Malzemeleri"));

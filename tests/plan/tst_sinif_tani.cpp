@@ -8,6 +8,7 @@
 #include "sinif_tanim.h"
 #include "veritabani.h"
 #include "yazici.h"
+#include "veri.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -50,13 +51,22 @@ class TstSinifTani : public QObject
     Q_OBJECT
 
     std::unique_ptr<QTemporaryDir> m_tmp;
+
+    mutable std::unique_ptr<Veri> m_veri;
     QPointer<SinifTani> m_ekran;
 
+    // The folder's files, opened at first use.
+    Veri& veri() const
+    {
+        if (!m_veri)
+            m_veri = std::make_unique<Veri>(klasor());
+        return *m_veri;
+    }
     QString klasor() const { return m_tmp->path(); }
 
     QVariant sql(const QString& komut, const QVariantList& degerler = {})
     {
-        Veritabani vt(klasor(), Dosya::Genel);
+        Veritabani& vt = veri().Baglanti(Dosya::Genel);
         QSqlQuery q = vt.Sorgu(komut, degerler);
         return q.next() ? q.value(0) : QVariant();
     }
@@ -69,7 +79,7 @@ class TstSinifTani : public QObject
 
     void ac()
     {
-        m_ekran = new SinifTani({u"2026"_s, u"3"_s, u"Okul"_s, klasor()});
+        m_ekran = new SinifTani({u"2026"_s, u"3"_s, u"Okul"_s, &veri()});
         m_ekran->show();
         Etkinlestir(m_ekran);
     }
@@ -93,7 +103,11 @@ class TstSinifTani : public QObject
     }
 
 private slots:
-    void init() { m_tmp = std::make_unique<QTemporaryDir>(); }
+    void init()
+    {
+        m_veri.reset();
+        m_tmp = std::make_unique<QTemporaryDir>();
+    }
     void cleanup() { delete m_ekran; }
 
     void sonrakiKod_data()
@@ -123,8 +137,8 @@ private slots:
         for (const QString& kod : siniflar)
             sinif(kod, u"Ad"_s);
         if (!silinen.isEmpty())
-            SinifTanim::Sil(klasor(), silinen);
-        QCOMPARE(SinifTanim::SonrakiKod(klasor(), tiklanan), beklenen);
+            SinifTanim::Sil(veri().Genel(), silinen);
+        QCOMPARE(SinifTanim::SonrakiKod(veri().Genel(), tiklanan), beklenen);
     }
 
     // In table order; a repeat of the row before and a row without a name are
@@ -138,11 +152,11 @@ private slots:
             const QStringList s = QString::fromUtf8(satir).split(u'|');
             sql(u"insert into HESAP_K (HesapKod, HesapAd) values (?, ?)"_s, {s[0], s[1]});
         }
-        QCOMPARE(SinifTanim::BirinciDetaylar(klasor(), u"150"_s),
+        QCOMPARE(SinifTanim::BirinciDetaylar(veri().Genel(), u"150"_s),
                  (QList<QStringList>{{u"150 01"_s, u"Kırtasiye"_s},
                                      {u"150 03"_s, u"Yakacak"_s},
                                      {u"150 01"_s, u"Kırtasiye"_s}}));
-        QCOMPARE(SinifTanim::IkinciDetaylar(klasor(), u"150 01"_s),
+        QCOMPARE(SinifTanim::IkinciDetaylar(veri().Genel(), u"150 01"_s),
                  (QList<QStringList>{{u"150 01 04"_s, u"Büro"_s}, {u"150 01 01"_s, u"Kağıt"_s}}));
     }
 
@@ -152,8 +166,8 @@ private slots:
                                   u" Kilogram1 "_s,     u"18,005"_s,
                                   u"8690000000000000000000000999"_s, u"12abc"_s,
                                   u" E-7 "_s};
-        SinifTanim::Kaydet(klasor(), yazilan);
-        const SinifSatiri okunan = SinifTanim::Getir(klasor(), u"150 01 04 001 "_s).value_or(SinifSatiri());
+        SinifTanim::Kaydet(veri().Genel(), yazilan);
+        const SinifSatiri okunan = SinifTanim::Getir(veri().Genel(), u"150 01 04 001 "_s).value_or(SinifSatiri());
         QCOMPARE(okunan.MalzAdi, u"Çocuk'un Parmak Boyası, çok renkli, uzun adlı bir takım"_s);
         QCOMPARE(okunan.Birimi, u"Kilogram"_s);
         QCOMPARE(okunan.KDV1, u"18,00"_s);
@@ -162,10 +176,10 @@ private slots:
         QCOMPARE(okunan.EskiKod, u"E-7"_s);
 
         // The same code updates; another code is a second row.
-        SinifTanim::Kaydet(klasor(), {u"150 01 04 001"_s, u"Yeni"_s, {}, {}, {}, {}, {}});
+        SinifTanim::Kaydet(veri().Genel(), {u"150 01 04 001"_s, u"Yeni"_s, {}, {}, {}, {}, {}});
         QCOMPARE(sayi(), 1);
-        QCOMPARE(SinifTanim::Getir(klasor(), u"150 01 04 001"_s)->Birimi, QString());
-        SinifTanim::Kaydet(klasor(), {u"150 01 04 002"_s, u"Yeni"_s, {}, {}, {}, {}, {}});
+        QCOMPARE(SinifTanim::Getir(veri().Genel(), u"150 01 04 001"_s)->Birimi, QString());
+        SinifTanim::Kaydet(veri().Genel(), {u"150 01 04 002"_s, u"Yeni"_s, {}, {}, {}, {}, {}});
         QCOMPARE(sayi(u"where MalzAdi = 'Yeni'"_s), 2);
     }
 
@@ -183,7 +197,7 @@ private slots:
         sinif(QVariant(), u"Silgi"_s, u"A12"_s);
         sinif(QVariant(), u"Silgi"_s, u"A13"_s);
         sinif(u"150 01 04 001"_s, u"Silgi"_s, u"A12"_s);
-        QCOMPARE(SinifTanim::Sil2(klasor(), ekrandakiKod, u" Silgi"_s, u"A12 "_s), ekrandakiKod.isEmpty());
+        QCOMPARE(SinifTanim::Sil2(veri().Genel(), ekrandakiKod, u" Silgi"_s, u"A12 "_s), ekrandakiKod.isEmpty());
         QCOMPARE(sayi(), kalan);
         QCOMPARE(sayi(u"where HesapKod is not null"_s), 1);
     }
@@ -214,7 +228,7 @@ private slots:
         sinif(u"253 01 01 001"_s, u"Işıldak"_s, u"E1"_s);
         sinif(QVariant(), u"Zar"_s, u"E0"_s);
         const QList<QStringList> satirlar =
-            SinifTanim::Liste(klasor(), suzgecler[0], suzgecler[1], suzgecler[2], SinifTanim::Sira(sira));
+            SinifTanim::Liste(veri().Genel(), suzgecler[0], suzgecler[1], suzgecler[2], SinifTanim::Sira(sira));
         QCOMPARE(sutun(satirlar, 0), kodlar);
         if (kodlar.contains(u"150 01 04 001"_s))
             QVERIFY(satirlar.contains(QStringList({u"150 01 04 001"_s, u"Zımba"_s, u"18"_s, u"Z"_s})));
@@ -225,7 +239,7 @@ private slots:
     void yazilanSayfalar()
     {
         {
-            Veritabani vt(klasor(), Dosya::Genel);
+            Veritabani& vt = veri().Baglanti(Dosya::Genel);
             Islem islem(vt);
             for (int i = 1; i <= 100; ++i)
                 vt.Calistir(u"insert into URUN_K (HesapKod, MalzAdi, KDV1) values (?, ?, '18')"_s,

@@ -8,6 +8,7 @@
 #include "unite_tanim.h"
 #include "veritabani.h"
 #include "yazici.h"
+#include "veri.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -27,13 +28,22 @@ class TstUniteTani : public QObject
     Q_OBJECT
 
     std::unique_ptr<QTemporaryDir> m_tmp;
+
+    mutable std::unique_ptr<Veri> m_veri;
     QPointer<Unite_TANI> m_ekran;
 
+    // The folder's files, opened at first use.
+    Veri& veri() const
+    {
+        if (!m_veri)
+            m_veri = std::make_unique<Veri>(klasor());
+        return *m_veri;
+    }
     QString klasor() const { return m_tmp->path(); }
 
     QVariant sql(const QString& komut, const QVariantList& degerler = {})
     {
-        Veritabani vt(klasor(), Dosya::Genel);
+        Veritabani& vt = veri().Baglanti(Dosya::Genel);
         QSqlQuery q = vt.Sorgu(komut, degerler);
         return q.next() ? q.value(0) : QVariant();
     }
@@ -54,7 +64,7 @@ class TstUniteTani : public QObject
 
     void ac()
     {
-        m_ekran = new Unite_TANI({u"2026"_s, u"3"_s, u"Örnek Okulu"_s, klasor()});
+        m_ekran = new Unite_TANI({u"2026"_s, u"3"_s, u"Örnek Okulu"_s, &veri()});
         m_ekran->show();
         Etkinlestir(m_ekran);
     }
@@ -79,7 +89,11 @@ class TstUniteTani : public QObject
     }
 
 private slots:
-    void init() { m_tmp = std::make_unique<QTemporaryDir>(); }
+    void init()
+    {
+        m_veri.reset();
+        m_tmp = std::make_unique<QTemporaryDir>();
+    }
     void cleanup() { delete m_ekran; }
 
     // The proposal is the value of the text maximum plus one.
@@ -97,7 +111,7 @@ private slots:
         QFETCH(QString, oneri);
         for (const QString& k : kodlar)
             ekle(k, k);
-        QCOMPARE(UniteTanim::Sonk(klasor()), oneri);
+        QCOMPARE(UniteTanim::Sonk(veri().Genel()), oneri);
     }
 
     // Bounds, not prefixes; codes compare as text, names the Turkish way.
@@ -125,29 +139,29 @@ private slots:
             ekle(QString::fromUtf8(kod), QString::fromUtf8(ad));
         QStringList kod;
         const auto sira = adaGore ? UniteTanim::Sira::Ad : UniteTanim::Sira::Kod;
-        for (const QStringList& satir : UniteTanim::Liste(klasor(), kodSiniri, adSiniri, sira))
+        for (const QStringList& satir : UniteTanim::Liste(veri().Genel(), kodSiniri, adSiniri, sira))
             kod << satir[0];
         QCOMPARE(kod, beklenen);
     }
 
     void kaydetGetirSil()
     {
-        UniteTanim::Kaydet(klasor(), u" 7"_s, u"O'Brien Atölyesi "_s);
+        UniteTanim::Kaydet(veri().Genel(), u" 7"_s, u"O'Brien Atölyesi "_s);
         QCOMPARE(adi(u" 7"_s), u"O'Brien Atölyesi "_s);
-        QVERIFY(!UniteTanim::Getir(klasor(), u"7"_s));  // the code as typed
-        const auto satir = UniteTanim::Getir(klasor(), u" 7"_s);
+        QVERIFY(!UniteTanim::Getir(veri().Genel(), u"7"_s));  // the code as typed
+        const auto satir = UniteTanim::Getir(veri().Genel(), u" 7"_s);
         QVERIFY(satir);
         QCOMPARE(satir->UniteKod, u"7"_s);
         QCOMPARE(satir->UniteAd, u"O'Brien Atölyesi"_s);
 
         ekle(u"5"_s, u"İlk"_s);
         ekle(u"5"_s, u"İkinci"_s);
-        UniteTanim::Kaydet(klasor(), u"5"_s, u"Yeni"_s);
+        UniteTanim::Kaydet(veri().Genel(), u"5"_s, u"Yeni"_s);
         QCOMPARE(adi(u"5"_s), u"Yeni|İkinci"_s);
 
-        UniteTanim::Sil(klasor(), u"5"_s);
-        QVERIFY(!UniteTanim::Var(klasor(), u"5"_s));
-        QVERIFY(UniteTanim::Var(klasor(), u" 7"_s));
+        UniteTanim::Sil(veri().Genel(), u"5"_s);
+        QVERIFY(!UniteTanim::Var(veri().Genel(), u"5"_s));
+        QVERIFY(UniteTanim::Var(veri().Genel(), u" 7"_s));
     }
 
     // Steps the screen does not show; 5 up and 0 down are in adimTuslari.
@@ -175,7 +189,7 @@ private slots:
         ekle(QString(), u"Kodsuz"_s);
         BellekCikti cikti;
         Yazici p(&cikti);
-        UniteTanim::UniteListesiYazdir(klasor(), u"Örnek Okulu"_s, p);
+        UniteTanim::UniteListesiYazdir(veri().Genel(), u"Örnek Okulu"_s, p);
         QCOMPARE(cikti.belgeler.size(), 1);
         const Sayfa& s = cikti.belgeler[0].value(0);
         QCOMPARE(s.MetinNerede(10 * MmTwip, 5 * MmTwip), u"Örnek Okulu - Bilet Listesi       Tarih :"_s);
@@ -316,7 +330,7 @@ private slots:
         tus(Qt::Key_F5);
         QCOMPARE(yanit.Metin(), u"   Bu Üniteyi silmek istiyor musunuz ?    "_s);
         QCOMPARE(yanit.Baslik(), u"Siliniyor"_s);
-        QCOMPARE(UniteTanim::Var(klasor(), u"3"_s), !evet);
+        QCOMPARE(UniteTanim::Var(veri().Genel(), u"3"_s), !evet);
         QCOMPARE(metin("UniteKod"), u"3"_s);  // proposed again after a delete
         QCOMPARE(kodlar(), evet ? QStringList({"1", "2"}) : QStringList({"1", "2", "3"}));
     }

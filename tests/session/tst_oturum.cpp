@@ -7,6 +7,7 @@
 #include "tek_deger.h"
 #include "veri_klasoru.h"
 #include "veritabani.h"
+#include "veri.h"
 
 #include <QAction>
 #include <QDir>
@@ -29,10 +30,9 @@ class TstOturum : public QObject
         return int(ToplamAl(vt, QStringLiteral("FIS_B"), QStringLiteral("1")));
     }
 
-    static void fisEkle(const QString& klasor, int no)
+    static void fisEkle(Veri& veri, int no)
     {
-        Veritabani vt(klasor, Dosya::Ayniyat);
-        vt.Calistir(QStringLiteral("insert into FIS_B (FisNo, FCins, Tarih) values (?, 'G', '14.03.2026')"), {no});
+        veri.Ayniyat().Calistir(QStringLiteral("insert into FIS_B (FisNo, FCins, Tarih) values (?, 'G', '14.03.2026')"), {no});
     }
 
 private slots:
@@ -100,17 +100,17 @@ private slots:
     void aylikKopyaAyinKopyasiniYeniler()
     {
         QTemporaryDir tmp;
-        VeriKlasoru::Hazirla(tmp.path());
-        fisEkle(tmp.path(), 1);
-        QVERIFY(Oturum::AylikKopya(tmp.path()));
+        Veri veri(tmp.path());
+        fisEkle(veri, 1);
         const QString kopya = tmp.filePath(QStringLiteral("AYNIYAT03.MDB"));
+        QCOMPARE(Oturum::AylikKopya(tmp.path()), kopya);
         QCOMPARE(fisSayisi(kopya), 1);
 
         // A second login in the same month replaces the copy, whatever the
         // case of its name.
         QVERIFY(QFile::rename(kopya, tmp.filePath(QStringLiteral("ayniyat03.mdb"))));
-        fisEkle(tmp.path(), 2);
-        QVERIFY(Oturum::AylikKopya(tmp.path()));
+        fisEkle(veri, 2);
+        Oturum::AylikKopya(tmp.path());
         const QStringList kopyalar =
             QDir(tmp.path()).entryList({QStringLiteral("AYNIYAT0*")}, QDir::Files, QDir::Name | QDir::IgnoreCase);
         QCOMPARE(kopyalar, QStringList{QStringLiteral("ayniyat03.mdb")});
@@ -118,7 +118,7 @@ private slots:
 
         // Another month, another copy; the live file is untouched.
         Saat::Ayarla(QDate(2026, 11, 1));
-        QVERIFY(Oturum::AylikKopya(tmp.path()));
+        Oturum::AylikKopya(tmp.path());
         QCOMPARE(fisSayisi(tmp.filePath(QStringLiteral("AYNIYAT11.MDB"))), 2);
         QCOMPARE(fisSayisi(tmp.filePath(QStringLiteral("AYNIYAT.MDB"))), 2);
     }
@@ -126,12 +126,12 @@ private slots:
     void aylikKopyaOlmazsaEskisiKalir()
     {
         QTemporaryDir tmp;
-        QVERIFY(!Oturum::AylikKopya(tmp.path()));
+        QVERIFY_THROWS_EXCEPTION(VeriHatasi, Oturum::AylikKopya(tmp.path()));
         QVERIFY(!QFile::exists(tmp.filePath(QStringLiteral("AYNIYAT03.MDB"))));
 
-        VeriKlasoru::Hazirla(tmp.path());
-        fisEkle(tmp.path(), 1);
-        QVERIFY(Oturum::AylikKopya(tmp.path()));
+        Veri veri(tmp.path());
+        fisEkle(veri, 1);
+        Oturum::AylikKopya(tmp.path());
         // A live file that is not ours cannot be copied: the old copy stays.
         const QString canli = tmp.filePath(QStringLiteral("AYNIYAT.MDB"));
         QVERIFY(QFile::remove(canli));
@@ -139,20 +139,27 @@ private slots:
         QVERIFY(bozuk.open(QIODevice::WriteOnly));
         bozuk.write("bozuk");
         bozuk.close();
-        QVERIFY(!Oturum::AylikKopya(tmp.path()));
+        try {
+            Oturum::AylikKopya(tmp.path());
+            QFAIL("bozuk dosyanın kopyası yazıldı");
+        } catch (const VeriHatasi& h) {
+            QVERIFY2(h.Mesaj().startsWith(QStringLiteral("Aylık güvenlik kopyası yazılamadı; önceki kopya duruyor.")),
+                     qPrintable(h.Mesaj()));
+        }
         QCOMPARE(fisSayisi(tmp.filePath(QStringLiteral("AYNIYAT03.MDB"))), 1);
+        QVERIFY(!QFile::exists(tmp.filePath(QStringLiteral("AYNIYAT03.MDB.yeni"))));
     }
 
     void menuSabittenOkur()
     {
         QTemporaryDir tmp;
-        VeriKlasoru::Hazirla(tmp.path());
+        Veri veri(tmp.path());
         {
-            Veritabani vt(tmp.path(), Dosya::Genel);
+            Veritabani& vt = veri.Baglanti(Dosya::Genel);
             vt.Calistir(QStringLiteral("update Sabit set KurumAdi = ?, CalisYil = 2025, CalisAy = 11"),
                         {QStringLiteral("Yeşiltepe Anadolu Lisesi")});
         }
-        Menu menu(tmp.path());
+        Menu menu(veri);
         QCOMPARE(menu.windowTitle(), QStringLiteral("Yeşiltepe Anadolu Lisesi - Taşınır Mal Yönetimi"));
         QCOMPARE(menu.Baslik->text(), QStringLiteral("Yeşiltepe Anadolu Lisesi"));
         QCOMPARE(menu.CalisYil->text(), QStringLiteral("2025"));
@@ -160,10 +167,10 @@ private slots:
 
         // Without the row the menu opens empty, without a word.
         {
-            Veritabani vt(tmp.path(), Dosya::Genel);
+            Veritabani& vt = veri.Baglanti(Dosya::Genel);
             vt.Calistir(QStringLiteral("delete from Sabit"));
         }
-        Menu bos(tmp.path());
+        Menu bos(veri);
         QCOMPARE(bos.windowTitle(), QStringLiteral(" - Taşınır Mal Yönetimi"));
         QVERIFY(bos.CalisYil->text().isEmpty());
         QVERIFY(bos.Baslik->text().isEmpty());
@@ -172,7 +179,8 @@ private slots:
     void menuGirisleriSiraylaVeHazirOlmayanlarKapali()
     {
         QTemporaryDir tmp;
-        Menu menu(tmp.path());
+        Veri veri(tmp.path());
+        Menu menu(veri);
         QStringList ust;
         for (QAction* a : menu.menuBar()->actions())
             ust << a->text();
@@ -209,7 +217,8 @@ private slots:
     void girisKipDegerleriniYazar()
     {
         QTemporaryDir tmp;
-        Menu menu(tmp.path());
+        Veri veri(tmp.path());
+        Menu menu(veri);
         QList<QPair<CalismaBaglami, QVariantMap>> acilanlar;
         menu.EkranTanimla(QStringLiteral("FIS_K"), [&](const CalismaBaglami& b, const QVariantMap& kip) {
             acilanlar.append({b, kip});
@@ -235,7 +244,8 @@ private slots:
     void escCikisDugmesineEnterCikar()
     {
         QTemporaryDir tmp;
-        Menu menu(tmp.path());
+        Veri veri(tmp.path());
+        Menu menu(veri);
         menu.show();
         QVERIFY(QTest::qWaitForWindowExposed(&menu));
         menu.CalisYil->setFocus();

@@ -3,6 +3,7 @@
 #include "sabit.h"
 #include "sabit_kayit.h"
 #include "veritabani.h"
+#include "veri.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -20,17 +21,26 @@ class TstSabit : public QObject
     Q_OBJECT
 
     std::unique_ptr<QTemporaryDir> m_tmp;
+
+    mutable std::unique_ptr<Veri> m_veri;
     QPointer<Sabit> m_ekran;
 
     static inline const QString kilit =
         u"create trigger kilit before update on Sabit begin select raise(abort, 'kilitli'); end"_s;
 
+    // The folder's files, opened at first use.
+    Veri& veri() const
+    {
+        if (!m_veri)
+            m_veri = std::make_unique<Veri>(klasor());
+        return *m_veri;
+    }
     QString klasor() const { return m_tmp->path(); }
 
     // Runs a statement on GENEL.MDB; the first value of a query.
     QVariant sql(const QString& komut)
     {
-        Veritabani vt(klasor(), Dosya::Genel);
+        Veritabani& vt = veri().Baglanti(Dosya::Genel);
         QSqlQuery q = vt.Sorgu(komut);
         return q.next() ? q.value(0) : QVariant();
     }
@@ -51,8 +61,8 @@ class TstSabit : public QObject
     void ac(bool kayitli = true)
     {
         if (kayitli)
-            SabitKayit::Kaydet(klasor(), ornek());
-        m_ekran = new Sabit({u"2026"_s, u"3"_s, u"Okul"_s, klasor()});
+            SabitKayit::Kaydet(veri().Genel(), ornek());
+        m_ekran = new Sabit({u"2026"_s, u"3"_s, u"Okul"_s, &veri()});
         m_ekran->show();
         Etkinlestir(m_ekran);
     }
@@ -64,7 +74,11 @@ class TstSabit : public QObject
     }
 
 private slots:
-    void init() { m_tmp = std::make_unique<QTemporaryDir>(); }
+    void init()
+    {
+        m_veri.reset();
+        m_tmp = std::make_unique<QTemporaryDir>();
+    }
     void cleanup() { delete m_ekran; }
 
     // A save empties the fields off the screen but the stamp rates and the
@@ -74,22 +88,22 @@ private slots:
     {
         sql(u"update Sabit set FutFedOran = '1', FedOran = '2', Sezon = '3', Sezon1 = '4', DamSinir1 = '5', "
             "DamSinir2 = '6', DamSinir3 = '7', DamgaOran2 = '8', DamgaOran3 = '9', LigSponsoru = 'Spor'"_s);
-        SabitKayit::Kaydet(klasor(), ornek());
+        SabitKayit::Kaydet(veri().Genel(), ornek());
         // Empty, not NULL: readers compare with ''.
         QCOMPARE(sql(u"select ifnull(FutFedOran || FedOran || Sezon || Sezon1 || DamSinir1 || DamSinir2 || "
                      "DamSinir3, 'NULL') || DamgaOran2 || DamgaOran3 || LigSponsoru from Sabit"_s).toString(),
                  u"89Spor"_s);
-        SabitKayit::Sil(klasor());
-        QVERIFY(!SabitKayit::Var(klasor()));
-        QVERIFY(!SabitKayit::Getir(klasor()));
+        SabitKayit::Sil(veri().Genel());
+        QVERIFY(!SabitKayit::Var(veri().Genel()));
+        QVERIFY(!SabitKayit::Getir(veri().Genel()));
         sql(kilit);
-        QVERIFY_THROWS_EXCEPTION(VeriHatasi, SabitKayit::Kaydet(klasor(), ornek()));
-        QVERIFY(!SabitKayit::Var(klasor()));
+        QVERIFY_THROWS_EXCEPTION(VeriHatasi, SabitKayit::Kaydet(veri().Genel(), ornek()));
+        QVERIFY(!SabitKayit::Var(veri().Genel()));
         sql(u"drop trigger kilit"_s);
-        SabitKayit::Kaydet(klasor(), ornek());
-        SabitKayit::Kaydet(klasor(), ornek());
+        SabitKayit::Kaydet(veri().Genel(), ornek());
+        SabitKayit::Kaydet(veri().Genel(), ornek());
         QCOMPARE(sql(u"select count(*) || '/' || min(Anahtar) from Sabit"_s).toString(), u"1/1"_s);
-        QCOMPARE(SabitKayit::Getir(klasor()).value_or(SabitSatiri()), ornek());
+        QCOMPARE(SabitKayit::Getir(veri().Genel()).value_or(SabitSatiri()), ornek());
     }
 
     void sayilarValIleYazilir_data()
@@ -104,7 +118,7 @@ private slots:
         QFETCH(QString, yazilan);
         SabitSatiri s = ornek();
         s[u"CalisYil"_s] = s[u"CalisAy"_s] = yazilan;
-        SabitKayit::Kaydet(klasor(), s);
+        SabitKayit::Kaydet(veri().Genel(), s);
         QTEST(sql(u"select CalisYil from Sabit"_s).toDouble(), "saklanan");
         QCOMPARE(sql(u"select typeof(CalisAy) from Sabit"_s).toString(), u"integer"_s);
     }
@@ -126,7 +140,7 @@ private slots:
         tus(Qt::Key_Tab);
         QCOMPARE(odak(), u"c2"_s);
         tus(Qt::Key_F1);
-        QCOMPARE(SabitKayit::Getir(klasor()).value_or(SabitSatiri()), beklenen);
+        QCOMPARE(SabitKayit::Getir(veri().Genel()).value_or(SabitSatiri()), beklenen);
         QCOMPARE(degisti.size(), 1);
         QCOMPARE(degisti[0], (QVariantList{u"2031"_s, u"7"_s}));
         QCOMPARE(m_ekran->DurumSatiri()->text(), u"    Kayıt Başarılı  .. "_s);
@@ -186,12 +200,12 @@ private slots:
             QCOMPARE(yanit.Metin(), u"Bu bilgileri silmek istiyormusunuz ?"_s);
             QCOMPARE(yanit.Baslik(), u"Siliniyor"_s);
         }
-        QCOMPARE(SabitKayit::Var(klasor()), !evet);
+        QCOMPARE(SabitKayit::Var(veri().Genel()), !evet);
         QCOMPARE(kutu("Muhasebeci1")->text().isEmpty(), evet);
         Etkinlestir(m_ekran);
         if (evet)
             QCOMPARE(odak(), u"Muhasebeci1"_s);
-        SabitKayit::Sil(klasor());
+        SabitKayit::Sil(veri().Genel());
         kutu("KurumAdi")->setText(u"yazılan"_s);
         kutu("Muhasebeci1")->setText(u"yazılan"_s);
         kutu("Anahtar")->setFocus();
@@ -212,7 +226,7 @@ private slots:
     void enterYolu()
     {
         ac(false);
-        SabitKayit::Kaydet(klasor(), ornek());
+        SabitKayit::Kaydet(veri().Genel(), ornek());
         kutu("Anahtar")->setFocus();
         tus(Qt::Key_Return);
         QCOMPARE(kutu("itaAmiriAdi")->text(), u"itaAmiriAd Çağ"_s);

@@ -13,6 +13,7 @@
 #include "veri_klasoru.h"
 #include "veritabani.h"
 #include "zimmet_yaz.h"
+#include "veri.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -33,9 +34,18 @@ class TstFisK : public QObject
     Q_OBJECT
 
     std::unique_ptr<QTemporaryDir> m_tmp;
+
+    mutable std::unique_ptr<Veri> m_veri;
     QPointer<FIS_K> m_ekran;
     BellekCikti m_cikti;
 
+    // The folder's files, opened at first use.
+    Veri& veri() const
+    {
+        if (!m_veri)
+            m_veri = std::make_unique<Veri>(klasor());
+        return *m_veri;
+    }
     QString klasor() const { return m_tmp->path(); }
 
     static QVariantMap giris() { return {{"ilk1", "1"}, {"FCins", "G"}, {"Hangi", "G"}}; }
@@ -47,13 +57,13 @@ class TstFisK : public QObject
 
     void calistir(Dosya dosya, const QString& sql, const QVariantList& degerler = {})
     {
-        Veritabani vt(klasor(), dosya);
+        Veritabani& vt = veri().Baglanti(dosya);
         vt.Calistir(sql, degerler);
     }
     // Compares the named fields of the first record that matches.
     void alanlar(const QString& tablo, const QString& kosul, const QVariantMap& beklenen)
     {
-        Veritabani vt(klasor(), Dosya::Ayniyat);
+        Veritabani& vt = veri().Baglanti(Dosya::Ayniyat);
         QSqlQuery q = vt.Sorgu(u"select * from "_s + tablo + u' ' + kosul);
         QVERIFY(q.next());
         for (auto i = beklenen.cbegin(); i != beklenen.cend(); ++i)
@@ -61,7 +71,7 @@ class TstFisK : public QObject
     }
     int say(const QString& tablo)
     {
-        Veritabani vt(klasor(), Dosya::Ayniyat);
+        Veritabani& vt = veri().Baglanti(Dosya::Ayniyat);
         QSqlQuery q = vt.Sorgu(u"select count(*) from "_s + tablo);
         q.next();
         return q.value(0).toInt();
@@ -79,12 +89,12 @@ class TstFisK : public QObject
                        "18", "", "", ""},
                       {"", "255 01 01 001", "", "MASAÜSTÜ", "ADET", "2", "100", "05.03.2026", "", "1", "", "", "",
                        "20", "", "", ""}};
-        QCOMPARE(FisKayit::Kaydet(klasor(), f, [] { return true; }), KayitSonucu::Kaydedildi);
+        QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), f, [] { return true; }), KayitSonucu::Kaydedildi);
     }
 
     void ac(const QVariantMap& kip = giris(), const QString& ay = u"3"_s)
     {
-        m_ekran = new FIS_K({u"2026"_s, ay, u"Örnek Okulu"_s, klasor()});
+        m_ekran = new FIS_K({u"2026"_s, ay, u"Örnek Okulu"_s, &veri()});
         m_ekran->CiktiSec(&m_cikti);
         m_ekran->KipAyarla(kip);
         m_ekran->show();
@@ -173,8 +183,9 @@ private slots:
     void init()
     {
         Saat::Ayarla(QDate(2026, 3, 14));
+        m_veri.reset();
         m_tmp = std::make_unique<QTemporaryDir>();
-        VeriKlasoru::Hazirla(klasor());
+        m_veri = std::make_unique<Veri>(klasor());
         const QString sinif = u"insert into URUN_K (HesapKod, MalzAdi, Birimi, KDV1) values (?, ?, ?, ?)"_s;
         calistir(Dosya::Genel, sinif, {"150 01 01 001", "A4 Kağıt", "PAKET", "18"});
         calistir(Dosya::Genel, sinif, {"255 01 01 001", "Bilgisayar", "ADET", "20"});

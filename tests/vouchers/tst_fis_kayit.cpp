@@ -3,6 +3,7 @@
 #include "tek_deger.h"
 #include "veri_klasoru.h"
 #include "veritabani.h"
+#include "veri.h"
 
 #include <QSqlRecord>
 #include <QTemporaryDir>
@@ -13,6 +14,14 @@ class TstFisKayit : public QObject
     Q_OBJECT
 
     QTemporaryDir m_tmp;
+    mutable std::unique_ptr<Veri> m_veri;
+    // The folder's files, opened at first use.
+    Veri& veri() const
+    {
+        if (!m_veri)
+            m_veri = std::make_unique<Veri>(klasor());
+        return *m_veri;
+    }
     QString klasor() const { return m_tmp.path(); }
 
     static FisEkrani giris(const QString& no = QStringLiteral("5"))
@@ -39,7 +48,7 @@ class TstFisKayit : public QObject
 
     QVariantMap satir(const QString& kosul, const QVariantList& degerler = {})
     {
-        Veritabani vt(klasor(), Dosya::Ayniyat);
+        Veritabani& vt = veri().Baglanti(Dosya::Ayniyat);
         QSqlQuery q = vt.Sorgu(QStringLiteral("select * from FIS ") + kosul, degerler);
         QVariantMap m;
         if (q.next())
@@ -50,7 +59,7 @@ class TstFisKayit : public QObject
 
     int say(const QString& tablo, const QString& kosul = {}, const QVariantList& degerler = {})
     {
-        Veritabani vt(klasor(), Dosya::Ayniyat);
+        Veritabani& vt = veri().Baglanti(Dosya::Ayniyat);
         return int(ToplamAl(vt, tablo, QStringLiteral("1"), kosul, degerler));
     }
 
@@ -61,22 +70,23 @@ private slots:
     {
         Saat::Ayarla(QDate(2026, 3, 14));
         QVERIFY(m_tmp.isValid());
+        m_veri.reset();
         for (const QString& ad : QDir(klasor()).entryList(QDir::Files))
             QFile::remove(QDir(klasor()).filePath(ad));
-        VeriKlasoru::Hazirla(klasor());
+        m_veri = std::make_unique<Veri>(klasor());
     }
     void cleanup() { Saat::Ayarla({}); }
 
     void kaydedilenFisAlanAlanGeriGelir()
     {
         FisEkrani f = giris();
-        QCOMPARE(FisKayit::Kaydet(klasor(), f, evet), KayitSonucu::Kaydedildi);
+        QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), f, evet), KayitSonucu::Kaydedildi);
 
         FisEkrani g;
         g.FisNo = QStringLiteral("5");
         g.FCins = QStringLiteral("G");
         g.CalisYil = QStringLiteral("2026");
-        QVERIFY(FisKayit::Getir(klasor(), g));
+        QVERIFY(FisKayit::Getir(veri().Ayniyat(), g));
         QCOMPARE(g.Tarih, f.Tarih);
         QCOMPARE(g.KabulTarih, f.KabulTarih);
         QCOMPARE(g.KabulSayi, f.KabulSayi);
@@ -85,7 +95,7 @@ private slots:
         QCOMPARE(g.BelgeTur, f.BelgeTur);
         QCOMPARE(g.BelgeSayi, f.BelgeSayi);
 
-        const FisSatirlari s = FisKayit::SatirlariGetir(klasor(), QStringLiteral("5"), QStringLiteral("G"),
+        const FisSatirlari s = FisKayit::SatirlariGetir(veri().Ayniyat(), veri().Genel(), QStringLiteral("5"), QStringLiteral("G"),
                                                         QStringLiteral("2026"));
         QCOMPARE(s.hucreler.size(), 2);
         QCOMPARE(s.hucreler[1],
@@ -95,7 +105,7 @@ private slots:
         QCOMPARE(s.islemAdlari, (QStringList{"SatınAlma", "SatınAlma"}));
 
         const QVariantMap bas = [&] {
-            Veritabani vt(klasor(), Dosya::Ayniyat);
+            Veritabani& vt = veri().Baglanti(Dosya::Ayniyat);
             QSqlQuery q = vt.Sorgu(QStringLiteral("select Ozellik, BelgeTarih, FCins from FIS_B"));
             q.next();
             return QVariantMap{{"Ozellik", q.value(0)}, {"BelgeTarih", q.value(1)}, {"FCins", q.value(2)}};
@@ -118,18 +128,18 @@ private slots:
         FisEkrani eski = giris(QStringLiteral("7"));
         eski.Tarih = QStringLiteral("10.03.2025");
         eski.CalisYil = QStringLiteral("2025");
-        QCOMPARE(FisKayit::Kaydet(klasor(), c, evet), KayitSonucu::Kaydedildi);
-        QCOMPARE(FisKayit::Kaydet(klasor(), eski, evet), KayitSonucu::Kaydedildi);
-        QCOMPARE(FisKayit::Kaydet(klasor(), g, evet), KayitSonucu::Kaydedildi);
+        QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), c, evet), KayitSonucu::Kaydedildi);
+        QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), eski, evet), KayitSonucu::Kaydedildi);
+        QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), g, evet), KayitSonucu::Kaydedildi);
         g.Satirlar.removeLast();
-        QCOMPARE(FisKayit::Kaydet(klasor(), g, evet), KayitSonucu::Kaydedildi);
+        QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), g, evet), KayitSonucu::Kaydedildi);
         QCOMPARE(say(QStringLiteral("FIS"), QStringLiteral(" where FCins = 'G' and Mid(Tarih,7,4) = '2026'")), 1);
         QCOMPARE(say(QStringLiteral("FIS"), QStringLiteral(" where FCins = 'C'")), 2);
         QCOMPARE(say(QStringLiteral("FIS"), QStringLiteral(" where Mid(Tarih,7,4) = '2025'")), 2);
         QCOMPARE(say(QStringLiteral("FIS_B")), 3);
 
-        QCOMPARE(FisKayit::EnSon(klasor(), QStringLiteral("G"), QStringLiteral("2026")), 8);
-        QCOMPARE(FisKayit::EnSon(klasor(), QStringLiteral("G"), QStringLiteral("2024")), 1);
+        QCOMPARE(FisKayit::EnSon(veri().Ayniyat(), QStringLiteral("G"), QStringLiteral("2026")), 8);
+        QCOMPARE(FisKayit::EnSon(veri().Ayniyat(), QStringLiteral("G"), QStringLiteral("2024")), 1);
     }
 
     void cikisFisiMiktarsizVeBosSatirAraliklidir()
@@ -138,13 +148,13 @@ private slots:
         c.FCins = c.Hangi = QStringLiteral("C");
         // Row 2 empty: row 3 keeps its number.
         c.Satirlar.insert(1, QStringList());
-        QCOMPARE(FisKayit::Kaydet(klasor(), c, evet), KayitSonucu::Kaydedildi);
+        QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), c, evet), KayitSonucu::Kaydedildi);
         QCOMPARE(say(QStringLiteral("FIS")), 2);
         QCOMPARE(satir(QStringLiteral("where Satir = 3")).value("HesapKod").toString(),
                  QStringLiteral("255 01 01 001"));
         QCOMPARE(satir(QStringLiteral("where Satir = 1")).value("Miktar").toString(), QString());
         QCOMPARE(satir(QStringLiteral("where Satir = 3")).value("Cikan").toString(), QStringLiteral("2"));
-        const FisSatirlari s = FisKayit::SatirlariGetir(klasor(), QStringLiteral("5"), QStringLiteral("C"),
+        const FisSatirlari s = FisKayit::SatirlariGetir(veri().Ayniyat(), veri().Genel(), QStringLiteral("5"), QStringLiteral("C"),
                                                         QStringLiteral("2026"));
         QCOMPARE(s.hucreler.size(), 2);
         QCOMPARE(s.hucreler[1].at(0), QStringLiteral("3"));
@@ -156,7 +166,7 @@ private slots:
         f.KabulTarih.clear();
         f.Satirlar[0][7].clear();
         f.Satirlar[1][7].clear();
-        QCOMPARE(FisKayit::Kaydet(klasor(), f, evet), KayitSonucu::Kaydedildi);
+        QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), f, evet), KayitSonucu::Kaydedildi);
         // Today's day and month in the working year for the acceptance date;
         // "01.01." + year for the first line; today's whole date for others.
         QCOMPARE(f.KabulTarih, QStringLiteral("14.03.2026"));
@@ -169,8 +179,8 @@ private slots:
         Saat::Ayarla(QDate(2027, 3, 20));
         FisEkrani g = giris(QStringLiteral("6"));
         g.Satirlar[0][6].clear();
-        QCOMPARE(FisKayit::Kaydet(klasor(), g, evet), KayitSonucu::Kaydedildi);
-        Veritabani vt(klasor(), Dosya::Ayniyat);
+        QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), g, evet), KayitSonucu::Kaydedildi);
+        Veritabani& vt = veri().Baglanti(Dosya::Ayniyat);
         QCOMPARE(AlanGetir(vt, QStringLiteral("FIS_B"), QStringLiteral("BelgeTarih"),
                            QStringLiteral(" where FisNo = 6")),
                  QStringLiteral("20.03.2026"));
@@ -182,24 +192,24 @@ private slots:
         f.Satirlar[1][1] = QStringLiteral("150 01 01 001");
         f.Satirlar[1][3] = QString(40, u'Ö');
         f.TeslimAlan = QString(40, u'x');
-        QCOMPARE(FisKayit::Kaydet(klasor(), f, evet), KayitSonucu::Kaydedildi);
+        QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), f, evet), KayitSonucu::Kaydedildi);
         QCOMPARE(satir(QStringLiteral("where Satir = 1")).value("SicilNo"),
                  satir(QStringLiteral("where Satir = 2")).value("SicilNo"));
         QCOMPARE(satir(QStringLiteral("where Satir = 2")).value("Ozellik").toString(), QString(30, u'Ö'));
-        Veritabani vt(klasor(), Dosya::Ayniyat);
+        Veritabani& vt = veri().Baglanti(Dosya::Ayniyat);
         QCOMPARE(AlanGetir(vt, QStringLiteral("FIS_B"), QStringLiteral("Len(TeslimAlan)")), QStringLiteral("32"));
     }
 
     void yenidenKayitDusumIsaretiniSiler()
     {
         FisEkrani f = giris();
-        QCOMPARE(FisKayit::Kaydet(klasor(), f, evet), KayitSonucu::Kaydedildi);
+        QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), f, evet), KayitSonucu::Kaydedildi);
         {
-            Veritabani vt(klasor(), Dosya::Ayniyat);
+            Veritabani& vt = veri().Baglanti(Dosya::Ayniyat);
             vt.Calistir(QStringLiteral("update FIS set FCinss = 'D', KabulSayi = '3', KabulTarih = '01.04.2026' "
                                        "where Satir = 2"));
         }
-        QCOMPARE(FisKayit::Kaydet(klasor(), f, evet), KayitSonucu::Kaydedildi);
+        QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), f, evet), KayitSonucu::Kaydedildi);
         const QVariantMap s = satir(QStringLiteral("where Satir = 2"));
         QCOMPARE(s.value("FCinss").toString(), QString());
         QCOMPARE(s.value("KabulSayi").toString(), QStringLiteral("12"));
@@ -210,11 +220,11 @@ private slots:
     {
         FisEkrani f = giris();
         f.Tarih = QStringLiteral("10.03.2025");
-        QCOMPARE(FisKayit::Kaydet(klasor(), f, evet), KayitSonucu::Kaydedildi);
+        QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), f, evet), KayitSonucu::Kaydedildi);
         // Saved under another year than the working one: the working year
         // cannot fetch it, the delete on the open screen finds it.
-        QVERIFY(!FisKayit::Getir(klasor(), f));
-        FisKayit::Sil(klasor(), f);
+        QVERIFY(!FisKayit::Getir(veri().Ayniyat(), f));
+        FisKayit::Sil(veri().Ayniyat(), f);
         QCOMPARE(say(QStringLiteral("FIS_B")), 0);
         QCOMPARE(say(QStringLiteral("FIS")), 0);
     }
@@ -222,40 +232,40 @@ private slots:
     void kaydedilmeyenDurumlar()
     {
         FisEkrani f = giris(QStringLiteral("x"));
-        QCOMPARE(FisKayit::Kaydet(klasor(), f, evet), KayitSonucu::FisNoYok);
+        QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), f, evet), KayitSonucu::FisNoYok);
         f = giris();
         f.Satirlar[0][1].clear();
-        QCOMPARE(FisKayit::Kaydet(klasor(), f, evet), KayitSonucu::IlkSatirBos);
+        QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), f, evet), KayitSonucu::IlkSatirBos);
 
         // Another month on the computer: the question decides.
         f = giris();
         f.CalisAy = QStringLiteral("2");
         int soruldu = 0;
-        QCOMPARE(FisKayit::Kaydet(klasor(), f, [&] { ++soruldu; return false; }), KayitSonucu::Vazgecildi);
+        QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), f, [&] { ++soruldu; return false; }), KayitSonucu::Vazgecildi);
         QCOMPARE(soruldu, 1);
         QCOMPARE(say(QStringLiteral("FIS_B")), 0);
         f.CalisAy = QStringLiteral("03");
-        QCOMPARE(FisKayit::Kaydet(klasor(), f, [&] { ++soruldu; return false; }), KayitSonucu::Kaydedildi);
+        QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), f, [&] { ++soruldu; return false; }), KayitSonucu::Kaydedildi);
         QCOMPARE(soruldu, 1);
     }
 
     void yarimKalanKayitEskiFisiBozmaz()
     {
         FisEkrani f = giris();
-        QCOMPARE(FisKayit::Kaydet(klasor(), f, evet), KayitSonucu::Kaydedildi);
+        QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), f, evet), KayitSonucu::Kaydedildi);
         {
-            Veritabani vt(klasor(), Dosya::Ayniyat);
+            Veritabani& vt = veri().Baglanti(Dosya::Ayniyat);
             vt.Calistir(QStringLiteral("create trigger bozuk before insert on FIS when NEW.HesapKod = 'HATA' "
                                        "begin select raise(abort, 'deneme'); end"));
         }
         FisEkrani bozuk = giris();
         bozuk.TeslimAlan = QStringLiteral("Başkası");
         bozuk.Satirlar[1][1] = QStringLiteral("HATA");
-        QVERIFY_THROWS_EXCEPTION(VeriHatasi, FisKayit::Kaydet(klasor(), bozuk, evet));
+        QVERIFY_THROWS_EXCEPTION(VeriHatasi, FisKayit::Kaydet(veri().Ayniyat(), bozuk, evet));
         QCOMPARE(say(QStringLiteral("FIS")), 2);
         QCOMPARE(satir(QStringLiteral("where Satir = 2")).value("HesapKod").toString(),
                  QStringLiteral("255 01 01 001"));
-        Veritabani vt(klasor(), Dosya::Ayniyat);
+        Veritabani& vt = veri().Baglanti(Dosya::Ayniyat);
         QCOMPARE(AlanGetir(vt, QStringLiteral("FIS_B"), QStringLiteral("TeslimAlan")), QStringLiteral("Mehmet Kaya"));
     }
 

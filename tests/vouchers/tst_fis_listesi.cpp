@@ -11,6 +11,7 @@
 #include "saat.h"
 #include "veri_klasoru.h"
 #include "veritabani.h"
+#include "veri.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>
@@ -29,15 +30,24 @@ class TstFisListesi : public QObject
     Q_OBJECT
 
     std::unique_ptr<QTemporaryDir> m_tmp;
+
+    mutable std::unique_ptr<Veri> m_veri;
     QPointer<FIS_L> m_liste;
 
+    // The folder's files, opened at first use.
+    Veri& veri() const
+    {
+        if (!m_veri)
+            m_veri = std::make_unique<Veri>(klasor());
+        return *m_veri;
+    }
     QString klasor() const { return m_tmp->path(); }
-    CalismaBaglami baglam() const { return {u"2026"_s, u"3"_s, QString(), klasor()}; }
+    CalismaBaglami baglam() const { return {u"2026"_s, u"3"_s, QString(), &veri()}; }
 
     QStringList numaralar(const FisListesi::Suzgec& s)
     {
         const FisListesi::Komut k = FisListesi::Sorgu(s);
-        Veritabani vt(klasor(), Dosya::Ayniyat);
+        Veritabani& vt = veri().Baglanti(Dosya::Ayniyat);
         QStringList sonuc;
         for (const QStringList& satir : vt.Satirlar(k.sql, k.degerler))
             sonuc << satir.at(0);
@@ -82,9 +92,10 @@ private slots:
     void init()
     {
         Saat::Ayarla(QDate(2026, 3, 14));
+        m_veri.reset();
         m_tmp = std::make_unique<QTemporaryDir>();
-        VeriKlasoru::Hazirla(klasor());
-        Veritabani vt(klasor(), Dosya::Ayniyat);
+        m_veri = std::make_unique<Veri>(klasor());
+        Veritabani& vt = veri().Baglanti(Dosya::Ayniyat);
         const QString ekle = QStringLiteral("insert into FIS_B (FisNo, Tarih, FCins, TeslimAlan, Ozellik, BelgeSayi, "
                                             "NeredenGeldigi) values (?, ?, ?, ?, ?, ?, ?)");
         vt.Calistir(ekle, {1, "05.01.2026", "G", "Mehmet Kaya", "MAVİ", "A-12", "Ankara"});
@@ -249,7 +260,7 @@ private slots:
         f.CalisYil = u"2026"_s, f.CalisAy = u"3"_s, f.TeslimAlan = u"Zeki Demir"_s;
         f.Satirlar = {{"", "150 01 01 001", "A4 Kağıt", "BEYAZ", "PAKET", "10", "5", "", "", "1", "", "", "", "18",
                        "", "", ""}};
-        QCOMPARE(FisKayit::Kaydet(klasor(), f, [] { return true; }), KayitSonucu::Kaydedildi);
+        QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), f, [] { return true; }), KayitSonucu::Kaydedildi);
 
         auto fis = std::make_unique<FIS_K>(baglam());
         fis->KipAyarla({{"FCins", "G"}, {"Hangi", "G"}});

@@ -6,6 +6,7 @@
 #include "veri_klasoru.h"
 #include "veritabani.h"
 #include "yazici.h"
+#include "veri.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -15,11 +16,20 @@ class TstFisSatir : public QObject
     Q_OBJECT
 
     std::unique_ptr<QTemporaryDir> m_tmp;
+
+    mutable std::unique_ptr<Veri> m_veri;
+    // The folder's files, opened at first use.
+    Veri& veri() const
+    {
+        if (!m_veri)
+            m_veri = std::make_unique<Veri>(klasor());
+        return *m_veri;
+    }
     QString klasor() const { return m_tmp->path(); }
 
     void calistir(Dosya dosya, const QString& sql, const QVariantList& degerler)
     {
-        Veritabani vt(klasor(), dosya);
+        Veritabani& vt = veri().Baglanti(dosya);
         vt.Calistir(sql, degerler);
     }
     void satir(int fisNo, const QString& kod, const QString& ozellik, const QString& miktar, const QString& cikan,
@@ -38,8 +48,9 @@ class TstFisSatir : public QObject
 private slots:
     void init()
     {
+        m_veri.reset();
         m_tmp = std::make_unique<QTemporaryDir>();
-        VeriKlasoru::Hazirla(klasor());
+        m_veri = std::make_unique<Veri>(klasor());
     }
 
     void gridEnter_data()
@@ -138,7 +149,7 @@ private slots:
         satir(5, QStringLiteral("255 01 01 001"), QStringLiteral("MAVİ"), QStringLiteral("1"), QString());
 
         // By code the written-off line is left out.
-        const FisSatir::HareketListesi kod = FisSatir::HesapHareketListe(klasor(), QStringLiteral("150 01 01 001"));
+        const FisSatir::HareketListesi kod = FisSatir::HesapHareketListe(veri().Ayniyat(), QStringLiteral("150 01 01 001"));
         QStringList numaralar;
         for (const QStringList& s : kod.satirlar)
             numaralar << s.at(2);
@@ -151,12 +162,12 @@ private slots:
         QCOMPARE(kod.Kalan, 11.0);
 
         // By description it is counted, whatever the code.
-        const FisSatir::HareketListesi oz = FisSatir::OzellikHareketListe(klasor(), QStringLiteral("MAVİ"));
+        const FisSatir::HareketListesi oz = FisSatir::OzellikHareketListe(veri().Ayniyat(), QStringLiteral("MAVİ"));
         QCOMPARE(oz.satirlar.size(), 4);
         QCOMPARE(oz.Gelen, 15.0);
         QCOMPARE(oz.Cikan, 4.0);
         QCOMPARE(oz.Kalan, 11.0);
-        QVERIFY(FisSatir::OzellikHareketListe(klasor(), QStringLiteral("YOK")).satirlar.isEmpty());
+        QVERIFY(FisSatir::OzellikHareketListe(veri().Ayniyat(), QStringLiteral("YOK")).satirlar.isEmpty());
     }
 
     void hareketYazdir()
@@ -188,26 +199,26 @@ private slots:
         calistir(Dosya::Genel, ekle, {QStringLiteral("150 01 01 001"), QStringLiteral("Ayraç"), QString(), QString()});
         calistir(Dosya::Genel, ekle, {QStringLiteral("150 01 01 002"), QStringLiteral("Ayraç"), QString(), QString()});
         calistir(Dosya::Genel, ekle, {QString(), QStringLiteral("Çivi"), QString(), QString()});
-        QCOMPARE(FisSatir::HesKodListesi(klasor()),
+        QCOMPARE(FisSatir::HesKodListesi(veri().Genel()),
                  (QStringList{"150 01 01 001 Ayraç", "150 01 01 002 Ayraç", "255 01 01 001 Bilgisayar"}));
-        QCOMPARE(FisSatir::SinifAdlari(klasor()), (QStringList{"Ayraç", "Bilgisayar ", "Çivi"}));
+        QCOMPARE(FisSatir::SinifAdlari(veri().Genel()), (QStringList{"Ayraç", "Bilgisayar ", "Çivi"}));
 
         // A picked item is looked up by its first 13 characters.
         const std::optional<FisSatir::Sinif> sinif =
-            FisSatir::KodlaSinif(klasor(), QStringLiteral("255 01 01 001 Bilgisayar"));
+            FisSatir::KodlaSinif(veri().Genel(), QStringLiteral("255 01 01 001 Bilgisayar"));
         QVERIFY(sinif);
         QCOMPARE(sinif->MalzAdi, QStringLiteral("Bilgisayar"));
         QCOMPARE(sinif->KDV1, QStringLiteral("20"));
         QCOMPARE(sinif->Birimi, QStringLiteral("ADET"));
-        QVERIFY(!FisSatir::KodlaSinif(klasor(), QStringLiteral("255 01 01 00")));
-        QCOMPARE(FisSatir::AdlaSinif(klasor(), QStringLiteral("Bilgisayar "))->HesapKod, QStringLiteral("255 01 01 001"));
-        QCOMPARE(FisSatir::MalzAdGetir(klasor(), QStringLiteral("255 01 01 001")), QStringLiteral("Bilgisayar "));
-        QVERIFY(!FisSatir::MalzAdGetir(klasor(), QStringLiteral("999")));
+        QVERIFY(!FisSatir::KodlaSinif(veri().Genel(), QStringLiteral("255 01 01 00")));
+        QCOMPARE(FisSatir::AdlaSinif(veri().Genel(), QStringLiteral("Bilgisayar "))->HesapKod, QStringLiteral("255 01 01 001"));
+        QCOMPARE(FisSatir::MalzAdGetir(veri().Genel(), QStringLiteral("255 01 01 001")), QStringLiteral("Bilgisayar "));
+        QVERIFY(!FisSatir::MalzAdGetir(veri().Genel(), QStringLiteral("999")));
 
         calistir(Dosya::Genel, QStringLiteral("insert into Unite_K (UniteKod, UniteAd) values ('5', 'Kütüphane')"), {});
         calistir(Dosya::Genel, QStringLiteral("insert into Unite_K (UniteKod, UniteAd) values ('3', 'Ambar')"), {});
-        QCOMPARE(FisSatir::UniteAdlari(klasor()), (QStringList{"Ambar", "Kütüphane"}));
-        QCOMPARE(FisSatir::UniteKodu(klasor(), QStringLiteral("Kütüphane")), QStringLiteral("5"));
+        QCOMPARE(FisSatir::UniteAdlari(veri().Genel()), (QStringList{"Ambar", "Kütüphane"}));
+        QCOMPARE(FisSatir::UniteKodu(veri().Genel(), QStringLiteral("Kütüphane")), QStringLiteral("5"));
 
         const QString bas = QStringLiteral("insert into FIS_B (FisNo, FCins, TeslimAlan) values (?, ?, ?)");
         calistir(Dosya::Ayniyat, bas, {1, QStringLiteral("G"), QStringLiteral("Veli")});
@@ -215,8 +226,8 @@ private slots:
         calistir(Dosya::Ayniyat, bas, {3, QStringLiteral("G"), QStringLiteral("Veli")});
         calistir(Dosya::Ayniyat, bas, {4, QStringLiteral("G"), QString()});
         calistir(Dosya::Ayniyat, bas, {5, QStringLiteral("C"), QStringLiteral("Can")});
-        QCOMPARE(FisSatir::TeslimAlanlar(klasor(), QStringLiteral("G")), (QStringList{"Ali", "Veli"}));
-        QCOMPARE(FisSatir::TeslimAlanlar(klasor(), QStringLiteral("C")), QStringList{"Can"});
+        QCOMPARE(FisSatir::TeslimAlanlar(veri().Ayniyat(), QStringLiteral("G")), (QStringList{"Ali", "Veli"}));
+        QCOMPARE(FisSatir::TeslimAlanlar(veri().Ayniyat(), QStringLiteral("C")), QStringList{"Can"});
     }
 };
 

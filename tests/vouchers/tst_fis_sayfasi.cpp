@@ -7,6 +7,7 @@
 #include "modal_yanit.h"
 #include "sabit_kayit.h"
 #include "veri_klasoru.h"
+#include "veri.h"
 
 #include <QLineEdit>
 #include <QPointer>
@@ -91,16 +92,25 @@ class TstFisSayfasi : public QObject
     Q_OBJECT
 
     std::unique_ptr<QTemporaryDir> m_tmp;
+
+    mutable std::unique_ptr<Veri> m_veri;
     QPointer<FisYaz> m_ekran;
     BellekCikti m_cikti;
 
+    // The folder's files, opened at first use.
+    Veri& veri() const
+    {
+        if (!m_veri)
+            m_veri = std::make_unique<Veri>(klasor());
+        return *m_veri;
+    }
     QString klasor() const { return m_tmp->path(); }
 
     void ac(const FisYazimi& y)
     {
-        VeriKlasoru::Hazirla(klasor());
-        SabitKayit::Kaydet(klasor(), sabit());
-        m_ekran = new FisYaz({u"2026"_s, u"3"_s, u"Okul"_s, klasor()}, y);
+        m_veri = std::make_unique<Veri>(klasor());
+        SabitKayit::Kaydet(veri().Genel(), sabit());
+        m_ekran = new FisYaz({u"2026"_s, u"3"_s, u"Okul"_s, &veri()}, y);
         m_ekran->CiktiSec(&m_cikti);
         m_ekran->show();
         etkinlestir();
@@ -110,6 +120,7 @@ class TstFisSayfasi : public QObject
 private slots:
     void init()
     {
+        m_veri.reset();
         m_tmp = std::make_unique<QTemporaryDir>();
         m_cikti.belgeler.clear();
     }

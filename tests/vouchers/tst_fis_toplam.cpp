@@ -2,6 +2,7 @@
 #include "saat.h"
 #include "veri_klasoru.h"
 #include "veritabani.h"
+#include "veri.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -152,9 +153,9 @@ private slots:
         Saat::Ayarla(QDate(2026, 3, 14));
         QTemporaryDir tmp;
         const QString klasor = tmp.path();
-        VeriKlasoru::Hazirla(klasor);
+        Veri veri(klasor);
         {
-            Veritabani genel(klasor, Dosya::Genel);
+            Veritabani& genel = veri.Baglanti(Dosya::Genel);
             genel.Calistir(QStringLiteral("insert into Unite_K (UniteKod, UniteAd) values ('3', 'Muhasebe')"));
         }
         const auto kaydet = [&](const QString& no, const QString& fcins, const QList<QStringList>& satirlar) {
@@ -165,7 +166,7 @@ private slots:
             f.CalisYil = QStringLiteral("2026");
             f.CalisAy = QStringLiteral("3");
             f.TeslimAlan = QStringLiteral("Mehmet Kaya");
-            QCOMPARE(FisKayit::Kaydet(klasor, f, [] { return true; }), KayitSonucu::Kaydedildi);
+            QCOMPARE(FisKayit::Kaydet(veri.Ayniyat(), f, [] { return true; }), KayitSonucu::Kaydedildi);
         };
         QStringList birinci = satir("10", "125.5", "", "8");
         birinci[8] = QStringLiteral("3");
@@ -174,7 +175,7 @@ private slots:
         kaydet(QStringLiteral("1"), QStringLiteral("C"), {satir("", "10.05", "1")});
 
         QString hata;
-        const FisYazimi g = FisToplam::KayittanYazim(klasor, QStringLiteral("1"), QStringLiteral("G"),
+        const FisYazimi g = FisToplam::KayittanYazim(veri, QStringLiteral("1"), QStringLiteral("G"),
                                                      QStringLiteral("2026"), &hata);
         QCOMPARE(g.fis.Hangi, QStringLiteral("G"));
         QCOMPARE(g.fis.TeslimAlan, QStringLiteral("Mehmet Kaya"));
@@ -188,7 +189,7 @@ private slots:
         QCOMPARE(hata, QString());
 
         // 10.05: five kuruş cannot be worded; the print goes on without.
-        const FisYazimi c = FisToplam::KayittanYazim(klasor, QStringLiteral("1"), QStringLiteral("C"),
+        const FisYazimi c = FisToplam::KayittanYazim(veri, QStringLiteral("1"), QStringLiteral("C"),
                                                      QStringLiteral("2026"), &hata);
         QCOMPARE(c.UniteAd2, QStringLiteral("false"));
         QCOMPARE(c.Text3, QStringLiteral("10,05"));
@@ -196,7 +197,7 @@ private slots:
         QCOMPARE(c.HarfYazma, QString());
         QVERIFY(!hata.isEmpty());
 
-        QVERIFY_THROWS_EXCEPTION(Hata, FisToplam::KayittanYazim(klasor, QStringLiteral("2"), QStringLiteral("G"),
+        QVERIFY_THROWS_EXCEPTION(Hata, FisToplam::KayittanYazim(veri, QStringLiteral("2"), QStringLiteral("G"),
                                                                 QStringLiteral("2026")));
         Saat::Ayarla({});
     }

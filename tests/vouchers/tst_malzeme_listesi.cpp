@@ -8,6 +8,7 @@
 #include "saat.h"
 #include "veri_klasoru.h"
 #include "veritabani.h"
+#include "veri.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -26,8 +27,17 @@ class TstMalzemeListesi : public QObject
     Q_OBJECT
 
     std::unique_ptr<QTemporaryDir> m_tmp;
+
+    mutable std::unique_ptr<Veri> m_veri;
     QPointer<FIS_K> m_fis;
 
+    // The folder's files, opened at first use.
+    Veri& veri() const
+    {
+        if (!m_veri)
+            m_veri = std::make_unique<Veri>(klasor());
+        return *m_veri;
+    }
     QString klasor() const { return m_tmp->path(); }
 
     struct Satir
@@ -39,7 +49,7 @@ class TstMalzemeListesi : public QObject
     };
     void yaz(const QList<Satir>& satirlar)
     {
-        Veritabani vt(klasor(), Dosya::Ayniyat);
+        Veritabani& vt = veri().Baglanti(Dosya::Ayniyat);
         for (const Satir& s : satirlar)
             vt.Calistir(QStringLiteral("insert into FIS (FisNo, FCins, FCinss, HesapKod, Ozellik, Miktar, Cikan, "
                                        "Birimi, BirimFiyat, KDV, Unite, KimeVerildigi, Tarih) "
@@ -57,7 +67,7 @@ class TstMalzemeListesi : public QObject
     // A voucher screen with the cell the list is asked from, and the list.
     Malzeme_L* listeAc(const QVariantMap& kip, int sutun, const QString& kod = QString())
     {
-        m_fis = new FIS_K({u"2026"_s, u"3"_s, u"Okul"_s, klasor()});
+        m_fis = new FIS_K({u"2026"_s, u"3"_s, u"Okul"_s, &veri()});
         if (!kip.isEmpty())
             m_fis->KipAyarla(kip);
         m_fis->show();
@@ -74,7 +84,7 @@ class TstMalzemeListesi : public QObject
     QList<int> fisler(const MalzemeListesi::Kosullar& k)
     {
         const MalzemeListesi::Komut komut = MalzemeListesi::Liste(k);
-        Veritabani vt(klasor(), Dosya::Ayniyat);
+        Veritabani& vt = veri().Baglanti(Dosya::Ayniyat);
         QList<int> no;
         for (const QStringList& s : vt.Satirlar(komut.sql, komut.degerler))
             no << s.value(7).toInt();
@@ -85,8 +95,9 @@ private slots:
     void init()
     {
         Saat::Ayarla(QDate(2026, 3, 14));
+        m_veri.reset();
         m_tmp = std::make_unique<QTemporaryDir>();
-        VeriKlasoru::Hazirla(klasor());
+        m_veri = std::make_unique<Veri>(klasor());
     }
     void cleanup()
     {
@@ -192,15 +203,15 @@ private slots:
     void aciklamaToplamlari()
     {
         yaz({{1, "150", "KALEM", "10", ""}, {2, "150", "KALEM", "2.5", "1"}, {3, "150", "SİLGİ", "7", "0"}});
-        QCOMPARE(MalzemeListesi::Toplamlar(klasor(), u"KALEM"_s),
+        QCOMPARE(MalzemeListesi::Toplamlar(veri().Ayniyat(), u"KALEM"_s),
                  (QStringList{" Gelen :", "12,5", "   Çıkan :", "1", "   Kalan :", "11,5"}));
-        QCOMPARE(MalzemeListesi::Toplamlar(klasor(), u"YOK"_s).value(1), QString());
+        QCOMPARE(MalzemeListesi::Toplamlar(veri().Ayniyat(), u"YOK"_s).value(1), QString());
     }
 
     void tembelListe()
     {
         {
-            Veritabani vt(klasor(), Dosya::Ayniyat);
+            Veritabani& vt = veri().Baglanti(Dosya::Ayniyat);
             Islem islem(vt);
             for (int i = 1; i <= 1000; ++i)
                 vt.Hazir(u"insert into FIS (FisNo, Ozellik) values (?, ?)"_s)
@@ -212,7 +223,7 @@ private slots:
         liste.resize(400, 300);
         liste.show();
         {
-            Veritabani vt(klasor(), Dosya::Ayniyat);
+            Veritabani& vt = veri().Baglanti(Dosya::Ayniyat);
             liste.Doldur(vt, u"select FisNo, Ozellik from FIS where FisNo > ? order by FisNo"_s, {0});
         }
         QCoreApplication::processEvents();
@@ -226,7 +237,7 @@ private slots:
         QCOMPARE(anlik.TextMatrix(1000, 0), u"1000"_s);
         QCOMPARE(liste.Okunan(), 1000);
         // All read: the file is free for a writer again.
-        Veritabani vt(klasor(), Dosya::Ayniyat);
+        Veritabani& vt = veri().Baglanti(Dosya::Ayniyat);
         Islem yaz(vt);
         vt.Calistir(u"delete from FIS"_s);
         yaz.Onayla();
@@ -237,7 +248,7 @@ private slots:
     {
         yaz({{7, "150 01 01 001", "MAVİ KALEM", "10", "4"}, {8, "255 01 01 001", "MASA", "1", "0"}});
         {
-            Veritabani vt(klasor(), Dosya::Genel);
+            Veritabani& vt = veri().Baglanti(Dosya::Genel);
             vt.Calistir(u"insert into URUN_K (HesapKod, MalzAdi, Birimi, KDV1) values (?, ?, ?, ?)"_s,
                         {"150 01 01 001", "Kalem", "ADET", "18"});
         }

@@ -1,0 +1,21 @@
+#include "veri.h"
+
+#include "sema.h"
+#include "veri_klasoru.h"
+
+Veri::Veri(const QString& klasor) : m_klasor(klasor), m_olusturulanlar(VeriKlasoru::Hazirla(klasor))
+{
+    for (Dosya d : VeriDosyalari) {
+        auto vt = std::make_unique<Veritabani>(VeriKlasoru::DosyaYolu(klasor, DosyaAdi(d)));
+        // Files of earlier builds get the tables they lack.
+        Sema::Tamamla(*vt, d);
+        m_baglantilar[std::size_t(d)] = std::move(vt);
+    }
+}
+
+Veri::~Veri() = default;
+
+Veritabani& Veri::Baglanti(Dosya dosya)
+{
+    return *m_baglantilar[std::size_t(dosya)];
+}

@@ -1,3 +1,4 @@
+#include "komutlar.h"
 #include "ornek_veri.h"
 #include "saat.h"
 #include "veri_klasoru.h"
@@ -75,6 +76,7 @@ private slots:
     void sabitlerYazilir();
     void doluKlasorReddedilir_data();
     void doluKlasorReddedilir();
+    void eksikDosyadaKomutYazmaz();
 };
 
 void TstOrnekVeri::ayniGirdiAyniSatirlar()
@@ -371,10 +373,8 @@ void TstOrnekVeri::doluKlasorReddedilir()
             OrnekVeriYaz(v, 50);
         }
     } else {
-        VeriKlasoru::Hazirla(dizin.path());
-        Veri verivt(dizin.path());
-    Veritabani& vt = verivt.Baglanti(tablo == QLatin1String("URUN_K") ? Dosya::Genel : Dosya::Ayniyat);
-        vt.Calistir(ekle);
+        Veri veri(dizin.path());
+        veri.Baglanti(tablo == QLatin1String("URUN_K") ? Dosya::Genel : Dosya::Ayniyat).Calistir(ekle);
     }
     const QStringList once = dokum(dizin.path());
     try {
@@ -388,6 +388,27 @@ void TstOrnekVeri::doluKlasorReddedilir()
                  qPrintable(hata.Mesaj()));
     }
     QCOMPARE(dokum(dizin.path()), once);
+}
+
+// A command on a folder that lacks a file stops before writing anything.
+void TstOrnekVeri::eksikDosyadaKomutYazmaz()
+{
+    QTemporaryDir dizin;
+    {
+        Veri v(dizin.path());
+        OrnekVeriYaz(v, 50);
+    }
+    QVERIFY(QFile::remove(dizin.filePath(QStringLiteral("AYNIYAT.MDB"))));
+    const QStringList once = QDir(dizin.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    Komutlar::Secenekler secenek;
+    secenek.cikti = dizin.filePath(QStringLiteral("formlar"));
+    QCOMPARE(Komutlar::Calistir({QStringLiteral("ornek-formlar")}, dizin.path(), secenek), 1);
+    secenek.no = QStringLiteral("1");
+    secenek.cins = QStringLiteral("G");
+    secenek.yil = QStringLiteral("2025");
+    secenek.cikti = dizin.filePath(QStringLiteral("fis.pdf"));
+    QCOMPARE(Komutlar::Calistir({QStringLiteral("yazdir"), QStringLiteral("fis")}, dizin.path(), secenek), 1);
+    QCOMPARE(QDir(dizin.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), once);
 }
 
 QTEST_GUILESS_MAIN(TstOrnekVeri)

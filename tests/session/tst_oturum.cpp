@@ -8,6 +8,7 @@
 #include "veri_klasoru.h"
 #include "veritabani.h"
 #include "veri.h"
+#include "veri_acilisi.h"
 
 #include <QAction>
 #include <QDir>
@@ -17,6 +18,7 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QStatusBar>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -148,6 +150,50 @@ private slots:
         }
         QCOMPARE(fisSayisi(tmp.filePath(QStringLiteral("AYNIYAT03.MDB"))), 1);
         QVERIFY(!QFile::exists(tmp.filePath(QStringLiteral("AYNIYAT03.MDB.yeni"))));
+    }
+
+    // The windowed run asks before making a missing file in a folder that
+    // holds data, and then writes no monthly copy from it.
+    void eksikDosyaSorulur()
+    {
+        QTemporaryDir tmp;
+        { Veri veri(tmp.path()); }
+        QVERIFY(QFile::remove(tmp.filePath(QStringLiteral("AYNIYAT.MDB"))));
+        {
+            ModalYanit hayir(QStringLiteral("Hayır"));
+            QVERIFY(!VeriAc(tmp.path()).veri);
+            QVERIFY(hayir.Metin().contains(QStringLiteral("AYNIYAT.MDB bulunamadı")));
+        }
+        QVERIFY(!QFile::exists(tmp.filePath(QStringLiteral("AYNIYAT.MDB"))));
+        ModalYanit evet(QStringLiteral("Evet"));
+        const AcilanVeri acilan = VeriAc(tmp.path());
+        QVERIFY(evet.Goruldu());
+        QVERIFY(acilan.veri);
+        QVERIFY(!acilan.kopyaYazilabilir);
+        QVERIFY(VeriAc(tmp.path()).kopyaYazilabilir);
+    }
+
+    void menuAylikKopyayiArkadaYazar()
+    {
+        QTemporaryDir tmp;
+        Veri veri(tmp.path());
+        fisEkle(veri, 1);
+        Menu menu(veri);
+        QSignalSpy bitti(&menu, &Menu::AylikKopyaBitti);
+        menu.AylikKopyaYaz();
+        QVERIFY(bitti.wait());
+        QCOMPARE(menu.statusBar()->currentMessage(), QStringLiteral("Aylık güvenlik kopyası yazıldı: AYNIYAT03.MDB"));
+        QCOMPARE(fisSayisi(tmp.filePath(QStringLiteral("AYNIYAT03.MDB"))), 1);
+
+        // A copy that cannot be written is said, and the old one stays.
+        QVERIFY(QDir(tmp.path()).mkdir(QStringLiteral("AYNIYAT03.MDB.yeni")));
+        QFile(tmp.filePath(QStringLiteral("AYNIYAT03.MDB.yeni/x"))).open(QIODevice::WriteOnly);
+        ModalYanit tamam(QStringLiteral("OK"));
+        menu.AylikKopyaYaz();
+        QVERIFY(bitti.wait());
+        QVERIFY(tamam.Goruldu());
+        QCOMPARE(menu.statusBar()->currentMessage(), QStringLiteral("Aylık güvenlik kopyası yazılamadı."));
+        QCOMPARE(fisSayisi(tmp.filePath(QStringLiteral("AYNIYAT03.MDB"))), 1);
     }
 
     void menuSabittenOkur()

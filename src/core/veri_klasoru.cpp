@@ -46,12 +46,6 @@ bool veriVar(const QString& klasor)
     return false;
 }
 
-void sil(const QString& yol)
-{
-    for (const char* ek : {"", "-wal", "-shm", "-journal"})
-        QFile::remove(yol + QLatin1String(ek));
-}
-
 }
 
 EksikDosyaHatasi::EksikDosyaHatasi(const QString& klasor, const QList<Dosya>& eksikler)
@@ -85,6 +79,12 @@ QString VeriKlasoru::DosyaYolu(const QString& klasor, const QString& ad)
         if (var.compare(ad, Qt::CaseInsensitive) == 0)
             return dizin.filePath(var);
     return dizin.filePath(ad);
+}
+
+void VeriKlasoru::Sil(const QString& yol)
+{
+    for (const char* ek : {"", "-wal", "-shm", "-journal"})
+        QFile::remove(yol + QLatin1String(ek));
 }
 
 QString VeriKlasoru::AylikKopyaAdi(int ay)
@@ -124,7 +124,7 @@ void VeriKlasoru::Olustur(const QString& klasor, const QList<Dosya>& dosyalar)
     for (Dosya d : dosyalar) {
         const QString hedef = DosyaYolu(klasor, DosyaAdi(d));
         const QString gecici = hedef + QStringLiteral(".yeni");
-        sil(gecici);
+        Sil(gecici);
         try {
             Veritabani vt(gecici, Acilis::Yeni);
             Islem islem(vt);
@@ -132,14 +132,14 @@ void VeriKlasoru::Olustur(const QString& klasor, const QList<Dosya>& dosyalar)
             Sema::TeslimSatirlari(vt, d);
             islem.Onayla();
         } catch (...) {
-            sil(gecici);
+            Sil(gecici);
             throw;
         }
         // An empty file in the way holds nothing; replaced in one step.
         std::error_code hata;
         std::filesystem::rename(gecici.toStdU16String(), hedef.toStdU16String(), hata);
         if (hata) {
-            sil(gecici);
+            Sil(gecici);
             throw VeriHatasi(QStringLiteral("\"%1\" oluşturulamadı: %2")
                                  .arg(QDir::toNativeSeparators(hedef), QString::fromLocal8Bit(hata.message())));
         }

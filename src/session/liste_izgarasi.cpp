@@ -22,7 +22,9 @@
 class ListeModeli : public QAbstractTableModel
 {
 public:
-    ListeModeli(QObject* ebeveyn, int pencere) : QAbstractTableModel(ebeveyn), m_satirlar(ListeIzgarasi::Blok, pencere)
+    ListeModeli(QObject* ebeveyn, int pencere)
+        : QAbstractTableModel(ebeveyn)
+        , m_satirlar(ListeIzgarasi::Blok, pencere)
     {
         connect(&m_okuyucu, &QTimer::timeout, this, [this] { Oku(std::numeric_limits<int>::max(), Dilim); });
     }

@@ -54,8 +54,8 @@ public:
     int Col() const;
     void SatirSec(int satir, int sutun = 0);
     // What the grid holds, for printing: the rest of a query is read first,
-    // then the rows are read through the window as they are printed, so the
-    // grid must outlive what it gives.
+    // then each row is read through the window as it is printed (empty once
+    // the grid is gone).
     Izgara Anlik() const;
 
 signals:

@@ -76,14 +76,13 @@ private slots:
         QCOMPARE(depo.Boy(), 3000);
         QVERIFY(depo.Bellekte() <= pencere * blok);
 
+        // A cell past the row's end widens it, and stays while its block is
+        // pushed out and brought back.
         depo.Yaz(blok, 3, u"SINIF"_s);
-        // Every block in turn pushes the written one out and brings it back.
-        for (int satir : {0, blok - 1, blok, blok + 1, 1500, 2999, 0, blok, 2999, 2 * blok - 1}) {
+        for (int satir : {0, blok - 1, blok, blok + 1, 1500, 2999, 0, 2 * blok - 1}) {
             QCOMPARE(depo.Satir(satir).value(1), u"Ö%1"_s.arg(satir));
             QVERIFY(depo.Bellekte() <= pencere * blok);
         }
-        for (int satir = 0; satir < 3000; satir += 97)
-            QCOMPARE(depo.Satir(satir).value(0), QString::number(satir));
         QCOMPARE(depo.Satir(blok), (QStringList{QString::number(blok), u"Ö%1"_s.arg(blok), {}, u"SINIF"_s}));
         QCOMPARE(depo.Satir(blok + 1).size(), 2);
 
@@ -123,11 +122,9 @@ private slots:
         QCOMPARE(liste.Row(), 1500);
         liste.verticalScrollBar()->setValue(0);
         QCoreApplication::processEvents();
-        for (int satir : {1, blok, blok + 2, 2 * blok, 2 * blok + 1, 2999, 3000})
+        for (int satir : {1, blok, 2 * blok + 1, 3000})
             QCOMPARE(liste.TextMatrix(satir, 1), u"Ö%1"_s.arg(satir));
         QCOMPARE(liste.TextMatrix(blok + 1, 1), u"SINIF"_s);
-        QCOMPARE(liste.TextMatrix(blok + 1, 0), QString::number(blok + 1));
-        QCOMPARE(liste.TextMatrix(3001, 1), QString());
     }
 
     void sinirlar_data()

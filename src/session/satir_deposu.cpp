@@ -26,6 +26,7 @@ void SatirDeposu::Ekle(const QStringList& satir)
     if (m_boy % m_blokSatiri == 0) {
         YerAc();
         m_bloklar.emplace_back();
+        // In cold: the next new block pushes it out before any on screen.
         m_sira.prepend(int(m_bloklar.size() - 1));
     }
     Blok& son = m_bloklar.back();

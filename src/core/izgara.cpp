@@ -1,16 +1,24 @@
 #include "izgara.h"
 
 #include <QAbstractItemModel>
+#include <QPointer>
 
 Izgara::Izgara(const QList<QStringList>& satirlar, const QList<int>& genislikler)
-    : m_satirlar(satirlar)
+    : Izgara(int(satirlar.size()),
+             [satirlar](int satir, int sutun) { return satirlar[satir].value(sutun); }, genislikler)
+{
+}
+
+Izgara::Izgara(int satirSayisi, Hucre hucre, const QList<int>& genislikler)
+    : m_satirSayisi(satirSayisi)
+    , m_hucre(std::move(hucre))
     , m_genislikler(genislikler)
 {
 }
 
 int Izgara::Rows() const
 {
-    return int(m_satirlar.size());
+    return m_satirSayisi;
 }
 
 int Izgara::Cols() const
@@ -20,7 +28,7 @@ int Izgara::Cols() const
 
 QString Izgara::TextMatrix(int satir, int sutun) const
 {
-    return m_satirlar.value(satir).value(sutun);
+    return satir >= 0 && satir < m_satirSayisi ? m_hucre(satir, sutun) : QString();
 }
 
 int Izgara::ColWidth(int sutun) const
@@ -30,16 +38,14 @@ int Izgara::ColWidth(int sutun) const
 
 Izgara ModeldenIzgara(const QAbstractItemModel& model, const QList<int>& genislikler)
 {
-    QList<QStringList> satirlar;
-    QStringList basliklar;
-    for (int sutun = 0; sutun < genislikler.size(); ++sutun)
-        basliklar.append(model.headerData(sutun, Qt::Horizontal).toString());
-    satirlar.append(basliklar);
-    for (int satir = 0; satir < model.rowCount(); ++satir) {
-        QStringList hucreler;
-        for (int sutun = 0; sutun < genislikler.size(); ++sutun)
-            hucreler.append(model.index(satir, sutun).data().toString());
-        satirlar.append(hucreler);
-    }
-    return Izgara(satirlar, genislikler);
+    const QPointer<const QAbstractItemModel> kaynak(&model);
+    return Izgara(
+        model.rowCount() + 1,
+        [kaynak](int satir, int sutun) {
+            if (!kaynak)
+                return QString();
+            return satir == 0 ? kaynak->headerData(sutun, Qt::Horizontal).toString()
+                              : kaynak->index(satir - 1, sutun).data().toString();
+        },
+        genislikler);
 }

@@ -1,15 +1,19 @@
 #include "liste_izgarasi.h"
 
+#include "satir_deposu.h"
 #include "veritabani.h"
 
 #include <QAbstractTableModel>
 #include <QBoxLayout>
+#include <QDeadlineTimer>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QKeyEvent>
 #include <QSqlRecord>
+#include <QTimer>
 
+#include <chrono>
 #include <limits>
 #include <memory>
 #include <optional>
@@ -18,17 +22,22 @@
 class ListeModeli : public QAbstractTableModel
 {
 public:
-    using QAbstractTableModel::QAbstractTableModel;
+    ListeModeli(QObject* ebeveyn, int pencere)
+        : QAbstractTableModel(ebeveyn)
+        , m_satirlar(ListeIzgarasi::Blok, pencere)
+    {
+        connect(&m_okuyucu, &QTimer::timeout, this, [this] { Oku(std::numeric_limits<int>::max(), Dilim); });
+    }
     ~ListeModeli() override { SorguKapat(); }
 
-    int rowCount(const QModelIndex& ust = {}) const override { return ust.isValid() ? 0 : int(m_satirlar.size()); }
+    int rowCount(const QModelIndex& ust = {}) const override { return ust.isValid() ? 0 : m_satirlar.Boy(); }
     int columnCount(const QModelIndex& ust = {}) const override { return ust.isValid() ? 0 : m_sutun; }
 
     QVariant data(const QModelIndex& i, int rol = Qt::DisplayRole) const override
     {
         if (!i.isValid() || (rol != Qt::DisplayRole && rol != Qt::EditRole))
             return {};
-        return m_satirlar[i.row()].value(i.column());
+        return m_satirlar.Satir(i.row()).value(i.column());
     }
 
     QVariant headerData(int bolum, Qt::Orientation yon, int rol = Qt::DisplayRole) const override
@@ -36,13 +45,6 @@ public:
         if (yon == Qt::Horizontal && rol == Qt::DisplayRole)
             return m_basliklar.value(bolum);
         return QAbstractTableModel::headerData(bolum, yon, rol);
-    }
-
-    bool canFetchMore(const QModelIndex& ust) const override { return !ust.isValid() && m_sorgu.has_value(); }
-    void fetchMore(const QModelIndex& ust) override
-    {
-        if (!ust.isValid())
-            Oku(int(m_satirlar.size()) + ListeIzgarasi::Blok);
     }
 
     void Basliklar(const QStringList& basliklar)
@@ -75,35 +77,39 @@ public:
         m_degerler = degerler;
         SutunGenislet(m_sorgu->record().count());
         Oku(ListeIzgarasi::Blok);
+        if (m_sorgu)
+            m_okuyucu.start(0);
     }
 
-    // Reads the query's rows until `kadar` rows are held or it ends.
-    void Oku(int kadar)
+    // Reads the query's rows until `kadar` rows are held, the query ends or
+    // the time is up, handing them to the view a block at a time.
+    void Oku(int kadar, std::chrono::milliseconds sure = std::chrono::milliseconds::max())
     {
-        if (!m_sorgu || kadar <= m_satirlar.size())
-            return;
-        QList<QStringList> yeni;
-        const int sutun = m_sorgu->record().count();
-        bool bitti = false;
-        while (m_satirlar.size() + yeni.size() < kadar) {
-            if (!m_sorgu->next()) {
-                bitti = true;
-                break;
+        const QDeadlineTimer son(sure);
+        while (m_sorgu && m_satirlar.Boy() < kadar && !son.hasExpired()) {
+            QList<QStringList> yeni;
+            const int sutun = m_sorgu->record().count();
+            const int blokSonu = std::min(kadar, m_satirlar.Boy() + ListeIzgarasi::Blok);
+            while (m_satirlar.Boy() + yeni.size() < blokSonu && !son.hasExpired()) {
+                if (!m_sorgu->next()) {
+                    // Read to the end: let go of the file at once, writers
+                    // and the checkpoint wait for it.
+                    SorguKapat();
+                    break;
+                }
+                QStringList satir;
+                satir.reserve(sutun);
+                for (int i = 0; i < sutun; ++i)
+                    satir << m_sorgu->value(i).toString();
+                yeni << satir;
             }
-            QStringList satir;
-            satir.reserve(sutun);
-            for (int i = 0; i < sutun; ++i)
-                satir << m_sorgu->value(i).toString();
-            yeni << satir;
+            if (yeni.isEmpty())
+                break;
+            beginInsertRows({}, m_satirlar.Boy(), int(m_satirlar.Boy() + yeni.size() - 1));
+            for (const QStringList& satir : std::as_const(yeni))
+                m_satirlar.Ekle(satir);
+            endInsertRows();
         }
-        // Read to the end: let go of the file at once, writers wait for it.
-        if (bitti)
-            SorguKapat();
-        if (yeni.isEmpty())
-            return;
-        beginInsertRows({}, int(m_satirlar.size()), int(m_satirlar.size() + yeni.size() - 1));
-        m_satirlar.append(yeni);
-        endInsertRows();
     }
 
     void HepsiniOku() { Oku(std::numeric_limits<int>::max()); }
@@ -112,10 +118,10 @@ public:
     int Toplam()
     {
         if (!m_sorgu)
-            return int(m_satirlar.size());
+            return m_satirlar.Boy();
         if (m_toplam < 0) {
             QSqlQuery say = m_vt->Sorgu(QStringLiteral("select count(*) from (") + m_sql + u')', m_degerler);
-            m_toplam = say.next() ? say.value(0).toInt() : int(m_satirlar.size());
+            m_toplam = say.next() ? say.value(0).toInt() : m_satirlar.Boy();
         }
         return m_toplam;
     }
@@ -124,7 +130,9 @@ public:
     {
         beginResetModel();
         SorguKapat();
-        m_satirlar = satirlar;
+        m_satirlar.Temizle();
+        for (const QStringList& satir : satirlar)
+            m_satirlar.Ekle(satir);
         endResetModel();
         for (const QStringList& satir : satirlar)
             SutunGenislet(int(satir.size()));
@@ -134,25 +142,27 @@ public:
     {
         HepsiniOku();
         SutunGenislet(int(satir.size()));
-        beginInsertRows({}, int(m_satirlar.size()), int(m_satirlar.size()));
-        m_satirlar.append(satir);
+        beginInsertRows({}, m_satirlar.Boy(), m_satirlar.Boy());
+        m_satirlar.Ekle(satir);
         endInsertRows();
     }
 
     void HucreYaz(int satir, int sutun, const QString& metin)
     {
-        if (satir < 0 || satir >= m_satirlar.size() || sutun < 0 || sutun >= m_sutun)
+        if (satir < 0 || satir >= m_satirlar.Boy() || sutun < 0 || sutun >= m_sutun)
             return;
-        QStringList& hucreler = m_satirlar[satir];
-        while (hucreler.size() <= sutun)
-            hucreler << QString();
-        hucreler[sutun] = metin;
+        m_satirlar.Yaz(satir, sutun, metin);
         emit dataChanged(index(satir, sutun), index(satir, sutun));
     }
 
 private:
+    // Reading in the background takes this long a turn, short enough for
+    // the screen to answer keys and scrolling in between.
+    static constexpr std::chrono::milliseconds Dilim{15};
+
     void SorguKapat()
     {
+        m_okuyucu.stop();
         m_sorgu.reset();
         m_vt.reset();
         m_sql.clear();
@@ -162,16 +172,20 @@ private:
 
     QStringList m_basliklar;
     int m_sutun = 0;
-    QList<QStringList> m_satirlar;
+    // Read through from the const view side too: the window moves.
+    mutable SatirDeposu m_satirlar;
     // The query lives on its own connection, which goes after it.
     std::unique_ptr<Veritabani> m_vt;
     std::optional<QSqlQuery> m_sorgu;
     QString m_sql;
     QVariantList m_degerler;
     int m_toplam = -1;
+    QTimer m_okuyucu;
 };
 
-ListeIzgarasi::ListeIzgarasi(QWidget* ebeveyn) : QTableView(ebeveyn), m_model(new ListeModeli(this))
+ListeIzgarasi::ListeIzgarasi(QWidget* ebeveyn, int pencere)
+    : QTableView(ebeveyn)
+    , m_model(new ListeModeli(this, pencere))
 {
     setModel(m_model);
     setEditTriggers(QAbstractItemView::NoEditTriggers);

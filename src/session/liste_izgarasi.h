@@ -13,25 +13,29 @@ class Veritabani;
 // A list grid with the manners of the old flex grid: row 0 is the heading,
 // rows of data count from 1, column widths are given in twips, and a width
 // below 101 twips hides the column. Read only; filled from a query or rows.
-// A query's rows come a block at a time as the list scrolls, so that a list
-// over a million lines opens at once.
+// A query shows its first block of rows at once and the rest is read in the
+// background, a slice per turn of the event loop, so that a list over a
+// million lines opens at once and lets go of the file soon after. Only a
+// window of blocks stays in memory; the rest waits in a temporary file.
 class ListeIzgarasi : public QTableView
 {
     Q_OBJECT
 
 public:
-    explicit ListeIzgarasi(QWidget* ebeveyn = nullptr);
-    ~ListeIzgarasi() override;
-
-    // Rows read from a query at each fetch.
+    // Rows read from a query before the first screen, and rows a block.
     static constexpr int Blok = 256;
+    // Blocks kept in memory.
+    static constexpr int Pencere = 16;
+
+    explicit ListeIzgarasi(QWidget* ebeveyn = nullptr, int pencere = Pencere);
+    ~ListeIzgarasi() override;
 
     void Basliklar(const QStringList& basliklar);
     void Genislikler(const QList<int>& twipler);
     // Replaces the rows with those of the query (values bound). The grid
     // reads on its own connection to vt's file, so vt may go at once; the
-    // query holds its read until its last row is fetched or the grid is
-    // filled anew. Throws VeriHatasi when the query fails.
+    // query holds its read until the background has read its last row or the
+    // grid is filled anew. Throws VeriHatasi when the query fails.
     void Doldur(Veritabani& vt, const QString& sql, const QVariantList& degerler = {});
     void Satirlar(const QList<QStringList>& satirlar);
     void SatirEkle(const QStringList& satir);
@@ -40,7 +44,7 @@ public:
     void HucreYaz(int satir, int sutun, const QString& metin);
 
     // Rows including the heading row, as the flex grid counted them; rows not
-    // fetched yet are counted.
+    // read yet are counted.
     int Rows() const;
     // Rows read so far, the heading not counted.
     int Okunan() const;
@@ -49,7 +53,9 @@ public:
     int Row() const;
     int Col() const;
     void SatirSec(int satir, int sutun = 0);
-    // What the grid holds, for printing: the rest of a query is read first.
+    // What the grid holds, for printing: the rest of a query is read first,
+    // then each row is read through the window as it is printed (empty once
+    // the grid is gone).
     Izgara Anlik() const;
 
 signals:

@@ -6,6 +6,7 @@
 #include <QStandardItemModel>
 #include <QtTest>
 
+#include <memory>
 #include <set>
 
 using namespace Qt::StringLiterals;
@@ -254,19 +255,25 @@ void TstGridYazdir::hata()
 
 void TstGridYazdir::modeldenIzgara()
 {
-    QStandardItemModel model(2, 3);
-    model.setHorizontalHeaderLabels({u"Kod"_s, u"Ad"_s, u"Miktar"_s});
-    model.setItem(0, 0, new QStandardItem(u"K1"_s));
-    model.setItem(1, 2, new QStandardItem(u"12,5"_s));
+    auto model = std::make_unique<QStandardItemModel>(2, 3);
+    model->setHorizontalHeaderLabels({u"Kod"_s, u"Ad"_s, u"Miktar"_s});
+    model->setItem(0, 0, new QStandardItem(u"K1"_s));
+    model->setItem(1, 2, new QStandardItem(u"12,5"_s));
 
-    const Izgara izgara = ModeldenIzgara(model, {1000, 50, 1500, 700});
+    const Izgara izgara = ModeldenIzgara(*model, {1000, 50, 1500, 700});
     QCOMPARE(izgara.Rows(), 3);
     QCOMPARE(izgara.Cols(), 4);
     QCOMPARE(izgara.TextMatrix(0, 1), u"Ad"_s);
     QCOMPARE(izgara.TextMatrix(1, 0), u"K1"_s);
     QCOMPARE(izgara.TextMatrix(2, 2), u"12,5"_s);
     QCOMPARE(izgara.TextMatrix(1, 3), u""_s);
+    QCOMPARE(izgara.TextMatrix(3, 0), u""_s);
     QCOMPARE(izgara.ColWidth(1), 50);
+    // Cells are read from the model when asked, not copied.
+    model->setItem(0, 0, new QStandardItem(u"K2"_s));
+    QCOMPARE(izgara.TextMatrix(1, 0), u"K2"_s);
+    model.reset();
+    QCOMPARE(izgara.TextMatrix(1, 0), u""_s);
 }
 
 QTEST_MAIN(TstGridYazdir)

@@ -1,7 +1,6 @@
 #include "etkinlestir.h"
 #include "fis_izgara.h"
 #include "fis_k.h"
-#include "izgara.h"
 #include "liste_izgarasi.h"
 #include "malzeme_l.h"
 #include "malzeme_listesi.h"
@@ -14,7 +13,6 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QRadioButton>
-#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -206,42 +204,6 @@ private slots:
         QCOMPARE(MalzemeListesi::Toplamlar(veri().Ayniyat(), u"KALEM"_s),
                  (QStringList{" Gelen :", "12,5", "   Çıkan :", "1", "   Kalan :", "11,5"}));
         QCOMPARE(MalzemeListesi::Toplamlar(veri().Ayniyat(), u"YOK"_s).value(1), QString());
-    }
-
-    void tembelListe()
-    {
-        {
-            Veritabani& vt = veri().Baglanti(Dosya::Ayniyat);
-            Islem islem(vt);
-            for (int i = 1; i <= 1000; ++i)
-                vt.Hazir(u"insert into FIS (FisNo, Ozellik) values (?, ?)"_s)
-                    .Calistir({i, u"Ö%1"_s.arg(i)});
-            islem.Onayla();
-        }
-        ListeIzgarasi liste;
-        liste.Genislikler({1000, 1000});
-        liste.resize(400, 300);
-        liste.show();
-        {
-            Veritabani& vt = veri().Baglanti(Dosya::Ayniyat);
-            liste.Doldur(vt, u"select FisNo, Ozellik from FIS where FisNo > ? order by FisNo"_s, {0});
-        }
-        QCoreApplication::processEvents();
-        QCOMPARE(liste.Okunan(), ListeIzgarasi::Blok);
-        liste.verticalScrollBar()->setValue(liste.verticalScrollBar()->maximum());
-        QCOMPARE(liste.Okunan(), 2 * ListeIzgarasi::Blok);
-        QCOMPARE(liste.Rows(), 1001);
-        QCOMPARE(liste.TextMatrix(600, 1), u"Ö600"_s);
-        const Izgara anlik = liste.Anlik();
-        QCOMPARE(anlik.Rows(), 1001);
-        QCOMPARE(anlik.TextMatrix(1000, 0), u"1000"_s);
-        QCOMPARE(liste.Okunan(), 1000);
-        // All read: the file is free for a writer again.
-        Veritabani& vt = veri().Baglanti(Dosya::Ayniyat);
-        Islem yaz(vt);
-        vt.Calistir(u"delete from FIS"_s);
-        yaz.Onayla();
-        QCOMPARE(liste.Rows(), 1001);
     }
 
     void fisEkranindanSecme()

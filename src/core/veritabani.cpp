@@ -107,6 +107,8 @@ void Veritabani::Ac(bool yeni)
             islem.Onayla();
         }
     } catch (...) {
+        // A statement still prepared keeps the driver from closing the file.
+        m_hazirlar.clear();
         QSqlDatabase::database(m_ad, false).close();
         QSqlDatabase::removeDatabase(m_ad);
         throw;

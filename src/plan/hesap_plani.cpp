@@ -39,7 +39,7 @@ QList<QStringList> HesapPlani::Liste(const QString& klasor, const QString& kodSu
         kosul = QStringLiteral(" where HesapAd like ? ");
         degerler = {adSuzgeci.trimmed() + u'*'};
     }
-    const QString sirala = sira == Sira::HesapKod ? QStringLiteral("HesapKod") : QStringLiteral("HesapAd");
+    const QString sirala = sira == Sira::HesapKod ? QStringLiteral("HesapKod") : QStringLiteral("HesapAd COLLATE TR");
 
     Veritabani vt(klasor, Dosya::Genel);
     return vt.Satirlar(QStringLiteral("Select HesapKod, HesapAd from HESAP_K ") + kosul

@@ -136,7 +136,8 @@ bool SinifTanim::Sil2(const QString& klasor, const QString& hesapKod, const QStr
         return false;
     Veritabani vt(klasor, Dosya::Genel);
     vt.Calistir(
-        QStringLiteral("Delete From URUN_K Where MalzAdi = ? And EskiKod = ? And \"IsNull\"(HesapKod) "),
+        QStringLiteral("Delete From URUN_K Where MalzAdi = ? COLLATE TR And EskiKod = ? COLLATE TR "
+                       "And \"IsNull\"(HesapKod) "),
         {malzAdi.trimmed(), eskiKod.trimmed()});
     return true;
 }
@@ -169,8 +170,8 @@ QList<QStringList> SinifTanim::Liste(const QString& klasor, const QString& hesap
     suz(QStringLiteral("MalzAdi"), malzemeAd1);
     suz(QStringLiteral("EskiKod"), eskiKod1);
     const QString sirala = sira == Sira::HesapKod  ? QStringLiteral("HesapKod")
-                           : sira == Sira::MalzAdi ? QStringLiteral("MalzAdi")
-                                                   : QStringLiteral("EskiKod");
+                           : sira == Sira::MalzAdi ? QStringLiteral("MalzAdi COLLATE TR")
+                                                   : QStringLiteral("EskiKod COLLATE TR");
 
     Veritabani vt(klasor, Dosya::Genel);
     return vt.Satirlar(QStringLiteral("Select HesapKod, MalzAdi, Kdv1, EskiKod from URUN_K ") + kosul

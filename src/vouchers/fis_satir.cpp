@@ -132,7 +132,7 @@ void FisSatir::SatirSil(QList<QStringList>& satirlar, int satir)
 QStringList FisSatir::HesKodListesi(const QString& klasor)
 {
     Veritabani vt(klasor, Dosya::Genel);
-    QSqlQuery q = vt.Sorgu(QStringLiteral("Select HesapKod, MalzAdi from URUN_K Order by MalzAdi"));
+    QSqlQuery q = vt.Sorgu(QStringLiteral("Select HesapKod, MalzAdi from URUN_K Order by MalzAdi COLLATE TR"));
     QStringList liste;
     while (q.next())
         if (!q.value(0).toString().isEmpty())
@@ -143,13 +143,13 @@ QStringList FisSatir::HesKodListesi(const QString& klasor)
 QStringList FisSatir::SinifAdlari(const QString& klasor)
 {
     Veritabani vt(klasor, Dosya::Genel);
-    return farkliDegerler(vt.Sorgu(QStringLiteral("Select MalzAdi from URUN_K ORDER BY MalzAdi")));
+    return farkliDegerler(vt.Sorgu(QStringLiteral("Select MalzAdi from URUN_K ORDER BY MalzAdi COLLATE TR")));
 }
 
 QStringList FisSatir::UniteAdlari(const QString& klasor)
 {
     Veritabani vt(klasor, Dosya::Genel);
-    QSqlQuery q = vt.Sorgu(QStringLiteral("Select UniteKod, UniteAd from Unite_K Order by UniteAd"));
+    QSqlQuery q = vt.Sorgu(QStringLiteral("Select UniteKod, UniteAd from Unite_K Order by UniteAd COLLATE TR"));
     QStringList adlar;
     while (q.next())
         adlar << q.value(1).toString();
@@ -160,14 +160,16 @@ QStringList FisSatir::TeslimAlanlar(const QString& klasor, const QString& fcins)
 {
     Veritabani vt(klasor, Dosya::Ayniyat);
     return farkliDegerler(
-        vt.Sorgu(QStringLiteral("Select TeslimAlan From FIS_B where Fcins = ? ORDER BY TeslimAlan"), {fcins}));
+        vt.Sorgu(QStringLiteral("Select TeslimAlan From FIS_B where Fcins = ? ORDER BY TeslimAlan COLLATE TR"),
+                 {fcins}));
 }
 
 QStringList FisSatir::NeredenGeldiler(const QString& klasor, const QString& fcins)
 {
     Veritabani vt(klasor, Dosya::Ayniyat);
     return farkliDegerler(vt.Sorgu(
-        QStringLiteral("Select NeredenGeldigi From FIS_B where Fcins = ?  Order by NeredenGeldigi"), {fcins}));
+        QStringLiteral("Select NeredenGeldigi From FIS_B where Fcins = ?  Order by NeredenGeldigi COLLATE TR"),
+        {fcins}));
 }
 
 std::optional<FisSatir::Sinif> FisSatir::KodlaSinif(const QString& klasor, const QString& secilen)
@@ -185,7 +187,8 @@ std::optional<FisSatir::Sinif> FisSatir::KodlaSinif(const QString& klasor, const
 std::optional<FisSatir::Sinif> FisSatir::AdlaSinif(const QString& klasor, const QString& ad)
 {
     Veritabani vt(klasor, Dosya::Genel);
-    QSqlQuery q = vt.Sorgu(QStringLiteral("Select HesapKod, MalzAdi, KDV1 from URUN_K Where MalzAdi = ?  "), {ad});
+    QSqlQuery q =
+        vt.Sorgu(QStringLiteral("Select HesapKod, MalzAdi, KDV1 from URUN_K Where MalzAdi = ? COLLATE TR "), {ad});
     if (!q.next())
         return std::nullopt;
     return Sinif{q.value(0).toString(), q.value(1).toString(), q.value(2).toString(), QString()};
@@ -203,7 +206,8 @@ std::optional<QString> FisSatir::MalzAdGetir(const QString& klasor, const QStrin
 std::optional<QString> FisSatir::UniteKodu(const QString& klasor, const QString& uniteAd)
 {
     Veritabani vt(klasor, Dosya::Genel);
-    QSqlQuery q = vt.Sorgu(QStringLiteral("Select UniteKod, UniteAd from Unite_K Where UniteAd = ? "), {uniteAd});
+    QSqlQuery q =
+        vt.Sorgu(QStringLiteral("Select UniteKod, UniteAd from Unite_K Where UniteAd = ? COLLATE TR "), {uniteAd});
     if (!q.next())
         return std::nullopt;
     return q.value(0).toString();
@@ -234,7 +238,7 @@ FisSatir::HareketListesi FisSatir::OzellikHareketListe(const QString& klasor, co
 {
     return hareketler(klasor,
                       QStringLiteral("Select Ozellik, BirimFiyat, FisNo, Miktar,Cikan, Tarih, Unite,KimeVerildigi "
-                                     "From FIS  Where Ozellik = ? order by FisNo, Tarih "),
+                                     "From FIS  Where Ozellik = ? COLLATE TR order by FisNo, Tarih "),
                       ozellik);
 }
 

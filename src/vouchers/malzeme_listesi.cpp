@@ -20,9 +20,9 @@ QString siraSutunu(Sira sira)
     case Sira::MalzAdi: return QStringLiteral("MalzAdi");
     case Sira::BirimFiyat: return QStringLiteral("BirimFiyat");
     case Sira::HesapKod: return QStringLiteral("HesapKod");
-    case Sira::Ozellik: return QStringLiteral("Ozellik");
+    case Sira::Ozellik: return QStringLiteral("Ozellik COLLATE TR");
     case Sira::Unite: return QStringLiteral("Unite");
-    case Sira::KimeVerildigi: return QStringLiteral("KimeVerildigi");
+    case Sira::KimeVerildigi: return QStringLiteral("KimeVerildigi COLLATE TR");
     }
     return {};
 }
@@ -80,7 +80,7 @@ Komut Liste(const Kosullar& k)
     ekle(k.KimeVerildigi, QStringLiteral(" and KimeVerildigi like ? "), QString(k.KimeVerildigi + u'%'));
     ekle(k.Ozellik, QStringLiteral(" and Ozellik like ? "), QString(k.Ozellik + u'%'));
     ekle(k.HesapKod, QStringLiteral(" and HesapKod like ? "), QString(k.HesapKod + u'%'));
-    ekle(k.Ozellik4, QStringLiteral(" and Ozellik = ? "), k.Ozellik4);
+    ekle(k.Ozellik4, QStringLiteral(" and Ozellik = ? COLLATE TR "), k.Ozellik4);
     // FIS has no such column: the database refuses the statement, the screen
     // shows why.
     ekle(k.NeredenGeldigi, QStringLiteral(" and NeredenGeldigi = ? "), k.NeredenGeldigi);
@@ -114,7 +114,8 @@ QStringList Toplamlar(const QString& klasor, const QString& ozellik)
 {
     Veritabani vt(klasor, Dosya::Ayniyat);
     QSqlQuery q = vt.Sorgu(QStringLiteral("Select ' Gelen :',Sum(val(Miktar)),'   Çıkan :',Sum(val(cikan)),"
-                                          "'   Kalan :',Sum(val(Miktar) - val(cikan)) From FIS  Where Ozellik = ? "),
+                                          "'   Kalan :',Sum(val(Miktar) - val(cikan)) From FIS  "
+                                          "Where Ozellik = ? COLLATE TR "),
                            {ozellik});
     QStringList hucreler;
     if (q.next())
@@ -126,12 +127,12 @@ QStringList Toplamlar(const QString& klasor, const QString& ozellik)
 QStringList Ozellikler(const QString& klasor)
 {
     // One item per description: the lines repeat them by the thousand.
-    return tekSutun(QStringLiteral("Select DISTINCT Ozellik from FIS ORDER BY Ozellik"), klasor);
+    return tekSutun(QStringLiteral("Select DISTINCT Ozellik COLLATE TR from FIS ORDER BY 1"), klasor);
 }
 
 QStringList NeredenGeldiler(const QString& klasor)
 {
-    return tekSutun(QStringLiteral("Select NeredenGeldigi From FIS_B Order by NeredenGeldigi"), klasor);
+    return tekSutun(QStringLiteral("Select NeredenGeldigi From FIS_B Order by NeredenGeldigi COLLATE TR"), klasor);
 }
 
 std::optional<int> YaziBoyu(const QString& metin)

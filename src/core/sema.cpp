@@ -3,6 +3,9 @@
 #include "saat.h"
 
 #include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSet>
 #include <QStringList>
 #include <QTextStream>
 
@@ -146,6 +149,67 @@ QList<const char*> tablolar(Dosya dosya)
     return {};
 }
 
+// A copy opened by path does not say which file it is: an older file is
+// rebuilt from the statements of every file.
+QList<const char*> butunKomutlar()
+{
+    QList<const char*> komutlar;
+    for (Dosya dosya : {Dosya::Genel, Dosya::Ayniyat, Dosya::HesapKod, Dosya::Okul, Dosya::Sirket})
+        komutlar += tablolar(dosya);
+    return komutlar;
+}
+
+// The table one of our CREATE statements makes or indexes.
+QString tablosu(const char* komut)
+{
+    static const QRegularExpression ad(QStringLiteral(R"((?:EXISTS|ON) (\w+) \()"));
+    return ad.match(QString::fromUtf8(komut)).captured(1);
+}
+
+QString tirnakli(QString ad)
+{
+    return u'"' + ad.replace(u'"', QStringLiteral("\"\"")) + u'"';
+}
+
+QStringList sutunlar(Veritabani& vt, const QString& tablo)
+{
+    QStringList adlar;
+    for (const QStringList& satir : vt.Satirlar(QStringLiteral("select name from pragma_table_info(?)"), {tablo}))
+        adlar << satir.at(0);
+    return adlar;
+}
+
+// Each table of ours the file holds is made anew and gets its rows back by
+// column name, rowids included: lists without an order read rowid order. The
+// old indexes go with the old table, before their names are made again.
+void yenidenKur(Veritabani& vt)
+{
+    QSet<QString> varolan;
+    for (const QStringList& satir :
+         vt.Satirlar(QStringLiteral("select lower(name) from sqlite_schema where type = 'table'")))
+        varolan << satir.at(0);
+    for (const char* komut : butunKomutlar()) {
+        const QString tablo = tablosu(komut);
+        if (!varolan.contains(tablo.toLower()))
+            continue;
+        if (!QByteArrayView(komut).startsWith("CREATE TABLE")) {
+            vt.Calistir(QString::fromUtf8(komut));
+            continue;
+        }
+        const QString eski = tablo + QStringLiteral("_eski");
+        vt.Calistir(QStringLiteral("ALTER TABLE %1 RENAME TO %2").arg(tirnakli(tablo), tirnakli(eski)));
+        vt.Calistir(QString::fromUtf8(komut));
+        const QStringList yeniler = sutunlar(vt, tablo);
+        QStringList ortak{QStringLiteral("rowid")};
+        for (const QString& sutun : sutunlar(vt, eski))
+            if (yeniler.contains(sutun, Qt::CaseInsensitive))
+                ortak << tirnakli(sutun);
+        vt.Calistir(QStringLiteral("INSERT INTO %1 (%2) SELECT %2 FROM %3")
+                        .arg(tirnakli(tablo), ortak.join(QStringLiteral(", ")), tirnakli(eski)));
+        vt.Calistir(QStringLiteral("DROP TABLE ") + tirnakli(eski));
+    }
+}
+
 // Movement types of current accounts that an institution's accounts use.
 const char* const cariTurler[][2] = {
     {"01", "Devir"},
@@ -204,6 +268,34 @@ QList<QPair<QString, QString>> Sema::KodListesi()
             liste.append({satir.left(sekme).trimmed(), satir.mid(sekme + 1).trimmed()});
     }
     return liste;
+}
+
+void Sema::Guncelle(Veritabani& vt)
+{
+    const int surum = vt.Satirlar(QStringLiteral("PRAGMA user_version")).value(0).value(0).toInt();
+    if (surum == Surum)
+        return;
+    const QString ad = QFileInfo(vt.Yol()).fileName();
+    if (surum > Surum)
+        throw VeriHatasi(QStringLiteral("\"%1\" programın daha yeni bir sürümüyle yazılmış; bu sürüm onu açamaz. "
+                                        "Dosyaya dokunulmadı; programı güncelleyiniz.")
+                             .arg(ad));
+    // A copy left by an attempt that never committed is as old as the file.
+    const QString kopya = vt.Yol() + QStringLiteral(".eski");
+    try {
+        QFile::remove(kopya);
+        vt.Calistir(QStringLiteral("VACUUM INTO ?"), {kopya});
+        Islem islem(vt);
+        yenidenKur(vt);
+        vt.Calistir(QStringLiteral("PRAGMA user_version = %1").arg(Surum));
+        islem.Onayla();
+    } catch (const VeriHatasi& hata) {
+        QFile::remove(kopya);
+        throw VeriHatasi(QStringLiteral("\"%1\" bu sürümün biçimine dönüştürülemedi; dosya olduğu gibi "
+                                        "bırakıldı. %2")
+                             .arg(ad, hata.Mesaj()));
+    }
+    QFile::remove(kopya);
 }
 
 void Sema::Tamamla(Veritabani& vt, Dosya dosya)

@@ -95,6 +95,9 @@ void Veritabani::Ac(bool yeni)
             if (!kimlik.next() || kimlik.value(0).toInt() != Sema::UygulamaKimligi)
                 throw VeriHatasi(yabanciDosya(m_yol));
         }
+        // With no statement still reading, and before any pragma writes.
+        if (!yeni)
+            Sema::Guncelle(*this);
         // Readers never block a writer: a long list still being read on one
         // screen must not stop a save on another.
         Calistir(QStringLiteral("PRAGMA journal_mode = WAL"));
@@ -102,6 +105,7 @@ void Veritabani::Ac(bool yeni)
         if (yeni) {
             Islem islem(*this);
             Calistir(QStringLiteral("PRAGMA application_id = %1").arg(Sema::UygulamaKimligi));
+            Calistir(QStringLiteral("PRAGMA user_version = %1").arg(Sema::Surum));
             Sema::Tamamla(*this, m_dosya);
             Sema::TeslimSatirlari(*this, m_dosya);
             islem.Onayla();

@@ -1,4 +1,5 @@
 #include "ornek_veri.h"
+#include "sema.h"
 #include "veritabani.h"
 
 #include <QDir>
@@ -45,6 +46,8 @@ private slots:
             QStringList durum;
             oku(db, QStringLiteral("pragma integrity_check"), durum);
             QCOMPARE(durum, QStringList{QStringLiteral("ok")});
+            oku(db, QStringLiteral("pragma user_version"), durum);
+            QCOMPARE(durum.last(), QString::number(Sema::Surum));
             QStringList tablolar;
             oku(db, QStringLiteral("select name from sqlite_schema where type = 'table'"), tablolar);
             QVERIFY(!tablolar.isEmpty());

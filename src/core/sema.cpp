@@ -3,124 +3,132 @@
 #include "saat.h"
 
 #include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSet>
 #include <QStringList>
 #include <QTextStream>
 
 namespace {
 
-// Text columns compare and sort the Turkish way, without regard to case, as
-// the engine the data came from did. Quantities, prices and dates are text.
+// Built-in collations only, so that any SQLite tool opens the files: the
+// codes, names and kinds the program compares or looks up are blind to case
+// (NOCASE), the rest compare as stored. A statement that sorts or matches
+// names for the user asks for the Turkish order itself (COLLATE TR). Codes
+// (digits and single blanks) and dd.mm.yyyy dates need not: TR weighs an
+// ASCII character that is no letter by its code, so they sort as stored.
+// Quantities, prices and dates are text.
 const char* const genelTablolar[] = {
     "CREATE TABLE IF NOT EXISTS Sabit ("
     " Anahtar INTEGER,"
-    " Muhasebeci1 TEXT COLLATE TR, Muhasebeci2 TEXT COLLATE TR,"
-    " AyniyatMemuru1 TEXT COLLATE TR, AyniyatMemuru2 TEXT COLLATE TR,"
-    " itaAmiri TEXT COLLATE TR, itaAmiriAd TEXT COLLATE TR,"
-    " AmbarMemur TEXT COLLATE TR, AmbarMemurAd TEXT COLLATE TR,"
-    " SubeMudur1 TEXT COLLATE TR, SubeMudur2 TEXT COLLATE TR,"
-    " HarcamaYetkilisi1 TEXT COLLATE TR, HarcamaYetkilisi2 TEXT COLLATE TR,"
-    " UstYonetici1 TEXT COLLATE TR, UstYonetici2 TEXT COLLATE TR,"
-    " MuhasebeBirimiAdi TEXT COLLATE TR, MuhasebeBirimiKod TEXT COLLATE TR,"
-    " KurumAdi TEXT COLLATE TR, KurumKod TEXT COLLATE TR,"
-    " ilAdi TEXT COLLATE TR, ilKod TEXT COLLATE TR,"
-    " BirimAd TEXT COLLATE TR, BirimKod TEXT COLLATE TR,"
-    " KDV1 TEXT COLLATE TR, FutFedOran TEXT COLLATE TR, FedOran TEXT COLLATE TR,"
-    " DamgaOran1 TEXT COLLATE TR, DamgaOran2 TEXT COLLATE TR, DamgaOran3 TEXT COLLATE TR,"
-    " DamSinir1 TEXT COLLATE TR, DamSinir2 TEXT COLLATE TR, DamSinir3 TEXT COLLATE TR,"
-    " LigSponsoru TEXT COLLATE TR, Sezon TEXT COLLATE TR, Sezon1 TEXT COLLATE TR,"
+    " Muhasebeci1 TEXT, Muhasebeci2 TEXT,"
+    " AyniyatMemuru1 TEXT, AyniyatMemuru2 TEXT,"
+    " itaAmiri TEXT, itaAmiriAd TEXT,"
+    " AmbarMemur TEXT, AmbarMemurAd TEXT,"
+    " SubeMudur1 TEXT, SubeMudur2 TEXT,"
+    " HarcamaYetkilisi1 TEXT, HarcamaYetkilisi2 TEXT,"
+    " UstYonetici1 TEXT, UstYonetici2 TEXT,"
+    " MuhasebeBirimiAdi TEXT, MuhasebeBirimiKod TEXT,"
+    " KurumAdi TEXT, KurumKod TEXT,"
+    " ilAdi TEXT, ilKod TEXT,"
+    " BirimAd TEXT, BirimKod TEXT,"
+    " KDV1 TEXT, FutFedOran TEXT, FedOran TEXT,"
+    " DamgaOran1 TEXT, DamgaOran2 TEXT, DamgaOran3 TEXT,"
+    " DamSinir1 TEXT, DamSinir2 TEXT, DamSinir3 TEXT,"
+    " LigSponsoru TEXT, Sezon TEXT, Sezon1 TEXT,"
     " CalisYil NUMERIC, CalisAy NUMERIC,"
-    " SayimBaskan TEXT COLLATE TR, SayimBaskanUnvan TEXT COLLATE TR,"
-    " SayimUye1 TEXT COLLATE TR, SayimUyeUnvan1 TEXT COLLATE TR,"
-    " SayimUye2 TEXT COLLATE TR, SayimUyeUnvan2 TEXT COLLATE TR)",
+    " SayimBaskan TEXT, SayimBaskanUnvan TEXT,"
+    " SayimUye1 TEXT, SayimUyeUnvan1 TEXT,"
+    " SayimUye2 TEXT, SayimUyeUnvan2 TEXT)",
     "CREATE TABLE IF NOT EXISTS HESAP_K ("
-    " HesapKod TEXT COLLATE TR, HesapAd TEXT COLLATE TR, HesapNo TEXT COLLATE TR,"
+    " HesapKod TEXT COLLATE NOCASE, HesapAd TEXT COLLATE NOCASE, HesapNo TEXT COLLATE NOCASE,"
     " AnaHesapNo INTEGER, AnaBolum INTEGER)",
     "CREATE INDEX IF NOT EXISTS HESAP_K_HesapKod ON HESAP_K (HesapKod)",
     "CREATE TABLE IF NOT EXISTS URUN_K ("
-    " HesapKod TEXT COLLATE TR, MalzAdi TEXT COLLATE TR, Birimi TEXT COLLATE TR,"
-    " KDV1 TEXT COLLATE TR, Barkod TEXT COLLATE TR, Stok NUMERIC,"
-    " EskiKod TEXT COLLATE TR, AnaHesapNo INTEGER)",
+    " HesapKod TEXT COLLATE NOCASE, MalzAdi TEXT COLLATE NOCASE, Birimi TEXT,"
+    " KDV1 TEXT, Barkod TEXT COLLATE NOCASE, Stok NUMERIC,"
+    " EskiKod TEXT COLLATE NOCASE, AnaHesapNo INTEGER)",
     "CREATE UNIQUE INDEX IF NOT EXISTS URUN_K_HesapKod ON URUN_K (HesapKod)",
     "CREATE INDEX IF NOT EXISTS URUN_K_MalzAdi ON URUN_K (MalzAdi)",
-    "CREATE TABLE IF NOT EXISTS Unite_K (UniteKod TEXT COLLATE TR, UniteAd TEXT COLLATE TR)",
+    "CREATE TABLE IF NOT EXISTS Unite_K (UniteKod TEXT COLLATE NOCASE, UniteAd TEXT COLLATE NOCASE)",
     "CREATE INDEX IF NOT EXISTS Unite_K_UniteKod ON Unite_K (UniteKod)",
     "CREATE TABLE IF NOT EXISTS Firma_K ("
-    " FirmaKod TEXT COLLATE TR, FirmaAd TEXT COLLATE TR, VergiNo TEXT COLLATE TR,"
-    " VergiDaire TEXT COLLATE TR, Telefon TEXT COLLATE TR, Adres TEXT COLLATE TR)",
+    " FirmaKod TEXT COLLATE NOCASE, FirmaAd TEXT COLLATE NOCASE, VergiNo TEXT,"
+    " VergiDaire TEXT, Telefon TEXT, Adres TEXT)",
     "CREATE TABLE IF NOT EXISTS ODENEK_K ("
-    " Yil TEXT COLLATE TR, HesapNo TEXT COLLATE TR, OdenekTutar TEXT COLLATE TR)",
-    "CREATE TABLE IF NOT EXISTS Kul (ad TEXT COLLATE TR, parola TEXT)",
-    "CREATE TABLE IF NOT EXISTS yetki (ad TEXT COLLATE TR, yetki TEXT COLLATE TR)",
-    "CREATE TABLE IF NOT EXISTS GOREV (GorevKod TEXT COLLATE TR, Ad TEXT COLLATE TR)",
+    " Yil TEXT, HesapNo TEXT COLLATE NOCASE, OdenekTutar TEXT)",
+    "CREATE TABLE IF NOT EXISTS Kul (ad TEXT COLLATE NOCASE, parola TEXT)",
+    "CREATE TABLE IF NOT EXISTS yetki (ad TEXT COLLATE NOCASE, yetki TEXT COLLATE NOCASE)",
+    "CREATE TABLE IF NOT EXISTS GOREV (GorevKod TEXT COLLATE NOCASE, Ad TEXT COLLATE NOCASE)",
 };
 
 const char* const ayniyatTablolar[] = {
     "CREATE TABLE IF NOT EXISTS FIS ("
-    " Tarih TEXT COLLATE TR, FisNo INTEGER, FCins TEXT COLLATE TR, FCinss TEXT COLLATE TR,"
-    " Satir INTEGER, HesapKod TEXT COLLATE TR, Ozellik TEXT COLLATE TR, SicilNo,"
-    " Miktar TEXT COLLATE TR, Cikan TEXT COLLATE TR, Birimi TEXT COLLATE TR,"
-    " BirimFiyat TEXT COLLATE TR, KDV NUMERIC, Unite TEXT COLLATE TR, IslemTur INTEGER,"
-    " KimeVerildigi TEXT COLLATE TR, AmbarNo INTEGER, OzelKod TEXT COLLATE TR,"
-    " BelgeTarih TEXT COLLATE TR, BelgeSayi TEXT COLLATE TR,"
-    " KabulSayi TEXT COLLATE TR, KabulTarih TEXT COLLATE TR,"
+    " Tarih TEXT, FisNo INTEGER, FCins TEXT COLLATE NOCASE, FCinss TEXT COLLATE NOCASE,"
+    " Satir INTEGER, HesapKod TEXT COLLATE NOCASE, Ozellik TEXT COLLATE NOCASE, SicilNo,"
+    " Miktar TEXT, Cikan TEXT, Birimi TEXT,"
+    " BirimFiyat TEXT, KDV NUMERIC, Unite TEXT COLLATE NOCASE, IslemTur INTEGER,"
+    " KimeVerildigi TEXT COLLATE NOCASE, AmbarNo INTEGER, OzelKod TEXT COLLATE NOCASE,"
+    " BelgeTarih TEXT, BelgeSayi TEXT COLLATE NOCASE,"
+    " KabulSayi TEXT COLLATE NOCASE, KabulTarih TEXT,"
     // Filled only by the transfer of earlier versions' files.
-    " HesapNo TEXT COLLATE TR, HesapAd TEXT COLLATE TR, FToplam TEXT COLLATE TR,"
-    " Nakden TEXT COLLATE TR, Mahsub TEXT COLLATE TR, EsasDefNo TEXT COLLATE TR,"
-    " EsasDefAd TEXT COLLATE TR, TeslimatNo TEXT COLLATE TR, ParaAlan TEXT COLLATE TR,"
-    " BankaKod TEXT COLLATE TR, KarsiNo TEXT COLLATE TR, Tur TEXT COLLATE TR,"
-    " Aciklama TEXT COLLATE TR, AnaHesapNo INTEGER)",
+    " HesapNo TEXT, HesapAd TEXT, FToplam TEXT,"
+    " Nakden TEXT, Mahsub TEXT, EsasDefNo TEXT,"
+    " EsasDefAd TEXT, TeslimatNo TEXT, ParaAlan TEXT,"
+    " BankaKod TEXT, KarsiNo TEXT, Tur TEXT,"
+    " Aciklama TEXT, AnaHesapNo INTEGER)",
     "CREATE INDEX IF NOT EXISTS FIS_Fis ON FIS (FisNo, FCins)",
     "CREATE INDEX IF NOT EXISTS FIS_HesapKod ON FIS (HesapKod)",
     "CREATE INDEX IF NOT EXISTS FIS_Ozellik ON FIS (Ozellik)",
     "CREATE TABLE IF NOT EXISTS FIS_B ("
-    " FisNo INTEGER, Tarih TEXT COLLATE TR, FCins TEXT COLLATE TR,"
-    " KabulSayi TEXT COLLATE TR, KabulTarih TEXT COLLATE TR, TeslimAlan TEXT COLLATE TR,"
-    " NeredenGeldigi TEXT COLLATE TR, Ozellik TEXT COLLATE TR,"
-    " BelgeTarih TEXT COLLATE TR, BelgeSayi TEXT COLLATE TR, BelgeTur TEXT COLLATE TR,"
-    " Ad TEXT COLLATE TR, Stad TEXT COLLATE TR, YevmiyeNo TEXT COLLATE TR,"
-    " Sonuc2 TEXT COLLATE TR, MacPrim TEXT COLLATE TR)",
+    " FisNo INTEGER, Tarih TEXT, FCins TEXT COLLATE NOCASE,"
+    " KabulSayi TEXT COLLATE NOCASE, KabulTarih TEXT, TeslimAlan TEXT COLLATE NOCASE,"
+    " NeredenGeldigi TEXT COLLATE NOCASE, Ozellik TEXT COLLATE NOCASE,"
+    " BelgeTarih TEXT, BelgeSayi TEXT COLLATE NOCASE, BelgeTur TEXT COLLATE NOCASE,"
+    " Ad TEXT, Stad TEXT, YevmiyeNo TEXT,"
+    " Sonuc2 TEXT, MacPrim TEXT)",
     "CREATE INDEX IF NOT EXISTS FIS_B_Fis ON FIS_B (FisNo, FCins)",
     "CREATE TABLE IF NOT EXISTS DUSUM_B ("
-    " FisNo INTEGER, Tarih TEXT COLLATE TR, FCins TEXT COLLATE TR,"
-    " KomisyonBaskaniAdi TEXT COLLATE TR, KomisyonBaskaniUnvani TEXT COLLATE TR,"
-    " UyeAdi TEXT COLLATE TR, UyeUnvani TEXT COLLATE TR,"
-    " HarcamaYetkilisiAdi TEXT COLLATE TR, HarcamaYetkilisiUnvani TEXT COLLATE TR,"
-    " MalzAdi TEXT COLLATE TR, Ozellik TEXT COLLATE TR, BirimFiyat TEXT COLLATE TR,"
-    " Unite TEXT COLLATE TR, ACIKLAMA_B TEXT COLLATE TR, YevmiyeNo TEXT COLLATE TR,"
-    " UniteAd TEXT COLLATE TR, UniteKod TEXT COLLATE TR, Ge TEXT COLLATE TR,"
+    " FisNo INTEGER, Tarih TEXT, FCins TEXT COLLATE NOCASE,"
+    " KomisyonBaskaniAdi TEXT, KomisyonBaskaniUnvani TEXT,"
+    " UyeAdi TEXT, UyeUnvani TEXT,"
+    " HarcamaYetkilisiAdi TEXT, HarcamaYetkilisiUnvani TEXT,"
+    " MalzAdi TEXT COLLATE NOCASE, Ozellik TEXT COLLATE NOCASE, BirimFiyat TEXT,"
+    " Unite TEXT COLLATE NOCASE, ACIKLAMA_B TEXT, YevmiyeNo TEXT,"
+    " UniteAd TEXT COLLATE NOCASE, UniteKod TEXT COLLATE NOCASE, Ge TEXT,"
     " FisTutar NUMERIC, FKarsiNo INTEGER,"
-    " Ad TEXT COLLATE TR, Stad TEXT COLLATE TR, Sonuc2 TEXT COLLATE TR, MacPrim TEXT COLLATE TR)",
+    " Ad TEXT, Stad TEXT, Sonuc2 TEXT, MacPrim TEXT)",
     "CREATE INDEX IF NOT EXISTS DUSUM_B_Fis ON DUSUM_B (FisNo, FCins)",
-    "CREATE TABLE IF NOT EXISTS ISTATIS (FisNo TEXT COLLATE TR, HesapNo TEXT COLLATE TR, Oran TEXT COLLATE TR)",
+    "CREATE TABLE IF NOT EXISTS ISTATIS (FisNo TEXT, HesapNo TEXT COLLATE NOCASE, Oran TEXT)",
 };
 
 const char* const hesapKodTablolar[] = {
     "CREATE TABLE IF NOT EXISTS HesapKod1 ("
-    " Alan1 TEXT COLLATE TR, Alan2 TEXT COLLATE TR, Alan3 TEXT COLLATE TR,"
-    " Alan4 TEXT COLLATE TR, Alan5 TEXT COLLATE TR, Alan6 TEXT COLLATE TR,"
-    " Alan7 TEXT COLLATE TR)",
+    " Alan1 TEXT COLLATE NOCASE, Alan2 TEXT COLLATE NOCASE, Alan3 TEXT COLLATE NOCASE,"
+    " Alan4 TEXT COLLATE NOCASE, Alan5 TEXT COLLATE NOCASE, Alan6 TEXT COLLATE NOCASE,"
+    " Alan7 TEXT COLLATE NOCASE)",
     // The name is read as HesapAd by the plan screen and as MalzAdi by the
     // class screen; both columns hold it.
     "CREATE TABLE IF NOT EXISTS HesapKod2 ("
-    " HesapKod TEXT COLLATE TR, HesapAd TEXT COLLATE TR, MalzAdi TEXT COLLATE TR)",
+    " HesapKod TEXT COLLATE NOCASE, HesapAd TEXT COLLATE NOCASE, MalzAdi TEXT COLLATE NOCASE)",
 };
 
 const char* const okulTablolar[] = {
     "CREATE TABLE IF NOT EXISTS CariHesap_Kart ("
-    " CariHesapKod TEXT COLLATE TR, CariHesapAd TEXT COLLATE TR,"
-    " VergiKimlikNo TEXT COLLATE TR, VergiDaire TEXT COLLATE TR, TCNo TEXT COLLATE TR,"
-    " Telefon TEXT COLLATE TR, Adres TEXT COLLATE TR, Adres2 TEXT COLLATE TR,"
-    " Aciklama TEXT COLLATE TR)",
+    " CariHesapKod TEXT COLLATE NOCASE, CariHesapAd TEXT COLLATE NOCASE,"
+    " VergiKimlikNo TEXT, VergiDaire TEXT, TCNo TEXT,"
+    " Telefon TEXT, Adres TEXT, Adres2 TEXT,"
+    " Aciklama TEXT)",
     "CREATE TABLE IF NOT EXISTS CariHesap_Hareket ("
-    " CariHesapKod TEXT COLLATE TR, Tarih TEXT COLLATE TR, CariTur TEXT COLLATE TR,"
-    " Aciklama TEXT COLLATE TR, BORC NUMERIC, ALACAK NUMERIC)",
+    " CariHesapKod TEXT COLLATE NOCASE, Tarih TEXT, CariTur TEXT COLLATE NOCASE,"
+    " Aciklama TEXT, BORC NUMERIC, ALACAK NUMERIC)",
     "CREATE INDEX IF NOT EXISTS CariHesap_Hareket_Kod ON CariHesap_Hareket (CariHesapKod)",
 };
 
 const char* const sirketTablolar[] = {
     "CREATE TABLE IF NOT EXISTS Sezon ("
-    " CalisSezon TEXT COLLATE TR, sirad TEXT COLLATE TR, def TEXT COLLATE TR)",
-    "CREATE TABLE IF NOT EXISTS Cari_T (CariTur TEXT COLLATE TR, CariTurAdi TEXT COLLATE TR)",
+    " CalisSezon TEXT COLLATE NOCASE, sirad TEXT, def TEXT)",
+    "CREATE TABLE IF NOT EXISTS Cari_T (CariTur TEXT COLLATE NOCASE, CariTurAdi TEXT COLLATE NOCASE)",
 };
 
 template <std::size_t N>
@@ -139,6 +147,67 @@ QList<const char*> tablolar(Dosya dosya)
     case Dosya::Sirket: return liste(sirketTablolar);
     }
     return {};
+}
+
+// A copy opened by path does not say which file it is: an older file is
+// rebuilt from the statements of every file.
+QList<const char*> butunKomutlar()
+{
+    QList<const char*> komutlar;
+    for (Dosya dosya : {Dosya::Genel, Dosya::Ayniyat, Dosya::HesapKod, Dosya::Okul, Dosya::Sirket})
+        komutlar += tablolar(dosya);
+    return komutlar;
+}
+
+// The table one of our CREATE statements makes or indexes.
+QString tablosu(const char* komut)
+{
+    static const QRegularExpression ad(QStringLiteral(R"((?:EXISTS|ON) (\w+) \()"));
+    return ad.match(QString::fromUtf8(komut)).captured(1);
+}
+
+QString tirnakli(QString ad)
+{
+    return u'"' + ad.replace(u'"', QStringLiteral("\"\"")) + u'"';
+}
+
+QStringList sutunlar(Veritabani& vt, const QString& tablo)
+{
+    QStringList adlar;
+    for (const QStringList& satir : vt.Satirlar(QStringLiteral("select name from pragma_table_info(?)"), {tablo}))
+        adlar << satir.at(0);
+    return adlar;
+}
+
+// Each table of ours the file holds is made anew and gets its rows back by
+// column name, rowids included: lists without an order read rowid order. The
+// old indexes go with the old table, before their names are made again.
+void yenidenKur(Veritabani& vt)
+{
+    QSet<QString> varolan;
+    for (const QStringList& satir :
+         vt.Satirlar(QStringLiteral("select lower(name) from sqlite_schema where type = 'table'")))
+        varolan << satir.at(0);
+    for (const char* komut : butunKomutlar()) {
+        const QString tablo = tablosu(komut);
+        if (!varolan.contains(tablo.toLower()))
+            continue;
+        if (!QByteArrayView(komut).startsWith("CREATE TABLE")) {
+            vt.Calistir(QString::fromUtf8(komut));
+            continue;
+        }
+        const QString eski = tablo + QStringLiteral("_eski");
+        vt.Calistir(QStringLiteral("ALTER TABLE %1 RENAME TO %2").arg(tirnakli(tablo), tirnakli(eski)));
+        vt.Calistir(QString::fromUtf8(komut));
+        const QStringList yeniler = sutunlar(vt, tablo);
+        QStringList ortak{QStringLiteral("rowid")};
+        for (const QString& sutun : sutunlar(vt, eski))
+            if (yeniler.contains(sutun, Qt::CaseInsensitive))
+                ortak << tirnakli(sutun);
+        vt.Calistir(QStringLiteral("INSERT INTO %1 (%2) SELECT %2 FROM %3")
+                        .arg(tirnakli(tablo), ortak.join(QStringLiteral(", ")), tirnakli(eski)));
+        vt.Calistir(QStringLiteral("DROP TABLE ") + tirnakli(eski));
+    }
 }
 
 // Movement types of current accounts that an institution's accounts use.
@@ -199,6 +268,34 @@ QList<QPair<QString, QString>> Sema::KodListesi()
             liste.append({satir.left(sekme).trimmed(), satir.mid(sekme + 1).trimmed()});
     }
     return liste;
+}
+
+void Sema::Guncelle(Veritabani& vt)
+{
+    const int surum = vt.Satirlar(QStringLiteral("PRAGMA user_version")).value(0).value(0).toInt();
+    if (surum == Surum)
+        return;
+    const QString ad = QFileInfo(vt.Yol()).fileName();
+    if (surum > Surum)
+        throw VeriHatasi(QStringLiteral("\"%1\" programın daha yeni bir sürümüyle yazılmış; bu sürüm onu açamaz. "
+                                        "Dosyaya dokunulmadı; programı güncelleyiniz.")
+                             .arg(ad));
+    // A copy left by an attempt that never committed is as old as the file.
+    const QString kopya = vt.Yol() + QStringLiteral(".eski");
+    try {
+        QFile::remove(kopya);
+        vt.Calistir(QStringLiteral("VACUUM INTO ?"), {kopya});
+        Islem islem(vt);
+        yenidenKur(vt);
+        vt.Calistir(QStringLiteral("PRAGMA user_version = %1").arg(Surum));
+        islem.Onayla();
+    } catch (const VeriHatasi& hata) {
+        QFile::remove(kopya);
+        throw VeriHatasi(QStringLiteral("\"%1\" bu sürümün biçimine dönüştürülemedi; dosya olduğu gibi "
+                                        "bırakıldı. %2")
+                             .arg(ad, hata.Mesaj()));
+    }
+    QFile::remove(kopya);
 }
 
 void Sema::Tamamla(Veritabani& vt, Dosya dosya)

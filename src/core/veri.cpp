@@ -7,7 +7,9 @@ Veri::Veri(const QString& klasor) : m_klasor(klasor), m_olusturulanlar(VeriKlaso
 {
     for (Dosya d : VeriDosyalari) {
         auto vt = std::make_unique<Veritabani>(VeriKlasoru::DosyaYolu(klasor, DosyaAdi(d)));
-        // Files of earlier builds get the tables they lack.
+        // Files of earlier builds are brought to this schema, and get the
+        // tables they lack.
+        Sema::Guncelle(*vt);
         Sema::Tamamla(*vt, d);
         m_baglantilar[std::size_t(d)] = std::move(vt);
     }

@@ -128,6 +128,7 @@ void VeriKlasoru::Olustur(const QString& klasor, const QList<Dosya>& dosyalar)
         try {
             Veritabani vt(gecici, Acilis::Yeni);
             Islem islem(vt);
+            vt.Calistir(QStringLiteral("PRAGMA user_version = %1").arg(Sema::Surum));
             Sema::Tamamla(vt, d);
             Sema::TeslimSatirlari(vt, d);
             islem.Onayla();

@@ -82,6 +82,8 @@ void Veritabani::Ac(bool yeni)
         if (yeni)
             Calistir(QStringLiteral("PRAGMA application_id = %1").arg(UygulamaKimligi));
     } catch (...) {
+        // A statement still prepared keeps the driver from closing the file.
+        m_hazirlar.clear();
         QSqlDatabase::database(m_ad, false).close();
         QSqlDatabase::removeDatabase(m_ad);
         throw;

@@ -39,7 +39,7 @@ QList<QStringList> HesapPlani::Liste(Veritabani& vt, const QString& kodSuzgeci, 
         kosul = QStringLiteral(" where HesapAd like ? ");
         degerler = {adSuzgeci.trimmed() + u'*'};
     }
-    const QString sirala = sira == Sira::HesapKod ? QStringLiteral("HesapKod") : QStringLiteral("HesapAd");
+    const QString sirala = sira == Sira::HesapKod ? QStringLiteral("HesapKod") : QStringLiteral("HesapAd COLLATE TR");
     return vt.Satirlar(QStringLiteral("Select HesapKod, HesapAd from HESAP_K ") + kosul
                                + QStringLiteral(" order by ") + sirala,
                            degerler);

@@ -129,7 +129,8 @@ bool SinifTanim::Sil2(Veritabani& vt, const QString& hesapKod, const QString& ma
     if (!hesapKod.isEmpty())
         return false;
     vt.Calistir(
-        QStringLiteral("Delete From URUN_K Where MalzAdi = ? And EskiKod = ? And \"IsNull\"(HesapKod) "),
+        QStringLiteral("Delete From URUN_K Where MalzAdi = ? COLLATE TR And EskiKod = ? COLLATE TR "
+                       "And \"IsNull\"(HesapKod) "),
         {malzAdi.trimmed(), eskiKod.trimmed()});
     return true;
 }
@@ -162,8 +163,8 @@ QList<QStringList> SinifTanim::Liste(Veritabani& vt, const QString& hesapNo1, co
     suz(QStringLiteral("MalzAdi"), malzemeAd1);
     suz(QStringLiteral("EskiKod"), eskiKod1);
     const QString sirala = sira == Sira::HesapKod  ? QStringLiteral("HesapKod")
-                           : sira == Sira::MalzAdi ? QStringLiteral("MalzAdi")
-                                                   : QStringLiteral("EskiKod");
+                           : sira == Sira::MalzAdi ? QStringLiteral("MalzAdi COLLATE TR")
+                                                   : QStringLiteral("EskiKod COLLATE TR");
     return vt.Satirlar(QStringLiteral("Select HesapKod, MalzAdi, Kdv1, EskiKod from URUN_K ") + kosul
                            + QStringLiteral(" order by ") + sirala,
                        degerler);

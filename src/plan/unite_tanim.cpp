@@ -45,10 +45,10 @@ QList<QStringList> UniteTanim::Liste(Veritabani& vt, const QString& kodSiniri, c
         degerler << kodSiniri;
     }
     if (!adSiniri.trimmed().isEmpty()) {
-        kosul += QStringLiteral("and UniteAd >= ? ");
+        kosul += QStringLiteral("and UniteAd >= ? COLLATE TR ");
         degerler << adSiniri;
     }
-    const QString siralama = sira == Sira::Kod ? QStringLiteral("UniteKod") : QStringLiteral("UniteAd");
+    const QString siralama = sira == Sira::Kod ? QStringLiteral("UniteKod") : QStringLiteral("UniteAd COLLATE TR");
     return vt.Satirlar(QStringLiteral("Select UniteKod, UniteAd from Unite_K ") + kosul
                                + QStringLiteral(" order by ") + siralama,
                            degerler);

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QGuiApplication>
+#include <QScopeGuard>
 
 namespace {
 
@@ -22,6 +23,10 @@ AcilanVeri VeriAc(const QString& klasor)
 {
     const QString baslik = QGuiApplication::applicationDisplayName();
     AcilanVeri sonuc;
+    // A file of an earlier version is converted while it opens: seconds on a
+    // large one.
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const auto imlec = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
     try {
         try {
             sonuc.veri = std::make_unique<Veri>(klasor);

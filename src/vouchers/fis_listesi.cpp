@@ -10,9 +10,9 @@
 QString FisListesi::SiraSutunu(int secenek, const QString& onceki)
 {
     static const std::array<QString, 7> sutunlar{
-        QStringLiteral("FisNo"),      QStringLiteral("Tarih"), QStringLiteral("Ozellik"),
-        QStringLiteral("TeslimAlan"), QStringLiteral("Unite"), QString(),
-        QStringLiteral("NeredenGeldigi")};
+        QStringLiteral("FisNo"),      QStringLiteral("Tarih"), QStringLiteral("Ozellik COLLATE TR"),
+        QStringLiteral("TeslimAlan COLLATE TR"), QStringLiteral("Unite"), QString(),
+        QStringLiteral("NeredenGeldigi COLLATE TR")};
     if (secenek < 1 || secenek > int(sutunlar.size()) || sutunlar[secenek - 1].isEmpty())
         return onceki;
     return sutunlar[secenek - 1];

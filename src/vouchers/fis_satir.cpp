@@ -130,7 +130,7 @@ void FisSatir::SatirSil(QList<QStringList>& satirlar, int satir)
 
 QStringList FisSatir::HesKodListesi(Veritabani& vt)
 {
-    QSqlQuery q = vt.Sorgu(QStringLiteral("Select HesapKod, MalzAdi from URUN_K Order by MalzAdi"));
+    QSqlQuery q = vt.Sorgu(QStringLiteral("Select HesapKod, MalzAdi from URUN_K Order by MalzAdi COLLATE TR"));
     QStringList liste;
     while (q.next())
         if (!q.value(0).toString().isEmpty())
@@ -140,12 +140,12 @@ QStringList FisSatir::HesKodListesi(Veritabani& vt)
 
 QStringList FisSatir::SinifAdlari(Veritabani& vt)
 {
-    return farkliDegerler(vt.Sorgu(QStringLiteral("Select MalzAdi from URUN_K ORDER BY MalzAdi")));
+    return farkliDegerler(vt.Sorgu(QStringLiteral("Select MalzAdi from URUN_K ORDER BY MalzAdi COLLATE TR")));
 }
 
 QStringList FisSatir::UniteAdlari(Veritabani& vt)
 {
-    QSqlQuery q = vt.Sorgu(QStringLiteral("Select UniteKod, UniteAd from Unite_K Order by UniteAd"));
+    QSqlQuery q = vt.Sorgu(QStringLiteral("Select UniteKod, UniteAd from Unite_K Order by UniteAd COLLATE TR"));
     QStringList adlar;
     while (q.next())
         adlar << q.value(1).toString();
@@ -155,13 +155,15 @@ QStringList FisSatir::UniteAdlari(Veritabani& vt)
 QStringList FisSatir::TeslimAlanlar(Veritabani& vt, const QString& fcins)
 {
     return farkliDegerler(
-        vt.Sorgu(QStringLiteral("Select TeslimAlan From FIS_B where Fcins = ? ORDER BY TeslimAlan"), {fcins}));
+        vt.Sorgu(QStringLiteral("Select TeslimAlan From FIS_B where Fcins = ? ORDER BY TeslimAlan COLLATE TR"),
+                 {fcins}));
 }
 
 QStringList FisSatir::NeredenGeldiler(Veritabani& vt, const QString& fcins)
 {
     return farkliDegerler(vt.Sorgu(
-        QStringLiteral("Select NeredenGeldigi From FIS_B where Fcins = ?  Order by NeredenGeldigi"), {fcins}));
+        QStringLiteral("Select NeredenGeldigi From FIS_B where Fcins = ?  Order by NeredenGeldigi COLLATE TR"),
+        {fcins}));
 }
 
 std::optional<FisSatir::Sinif> FisSatir::KodlaSinif(Veritabani& vt, const QString& secilen)
@@ -177,7 +179,8 @@ std::optional<FisSatir::Sinif> FisSatir::KodlaSinif(Veritabani& vt, const QStrin
 
 std::optional<FisSatir::Sinif> FisSatir::AdlaSinif(Veritabani& vt, const QString& ad)
 {
-    QSqlQuery q = vt.Sorgu(QStringLiteral("Select HesapKod, MalzAdi, KDV1 from URUN_K Where MalzAdi = ?  "), {ad});
+    QSqlQuery q =
+        vt.Sorgu(QStringLiteral("Select HesapKod, MalzAdi, KDV1 from URUN_K Where MalzAdi = ? COLLATE TR "), {ad});
     if (!q.next())
         return std::nullopt;
     return Sinif{q.value(0).toString(), q.value(1).toString(), q.value(2).toString(), QString()};
@@ -193,7 +196,8 @@ std::optional<QString> FisSatir::MalzAdGetir(Veritabani& vt, const QString& hesa
 
 std::optional<QString> FisSatir::UniteKodu(Veritabani& vt, const QString& uniteAd)
 {
-    QSqlQuery q = vt.Sorgu(QStringLiteral("Select UniteKod, UniteAd from Unite_K Where UniteAd = ? "), {uniteAd});
+    QSqlQuery q =
+        vt.Sorgu(QStringLiteral("Select UniteKod, UniteAd from Unite_K Where UniteAd = ? COLLATE TR "), {uniteAd});
     if (!q.next())
         return std::nullopt;
     return q.value(0).toString();
@@ -224,7 +228,7 @@ FisSatir::HareketListesi FisSatir::OzellikHareketListe(Veritabani& vt, const QSt
 {
     return hareketler(vt,
                       QStringLiteral("Select Ozellik, BirimFiyat, FisNo, Miktar,Cikan, Tarih, Unite,KimeVerildigi "
-                                     "From FIS  Where Ozellik = ? order by FisNo, Tarih "),
+                                     "From FIS  Where Ozellik = ? COLLATE TR order by FisNo, Tarih "),
                       ozellik);
 }
 

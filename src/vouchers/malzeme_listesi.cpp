@@ -20,9 +20,9 @@ QString siraSutunu(Sira sira)
     case Sira::MalzAdi: return QStringLiteral("MalzAdi");
     case Sira::BirimFiyat: return QStringLiteral("BirimFiyat");
     case Sira::HesapKod: return QStringLiteral("HesapKod");
-    case Sira::Ozellik: return QStringLiteral("Ozellik");
+    case Sira::Ozellik: return QStringLiteral("Ozellik COLLATE TR");
     case Sira::Unite: return QStringLiteral("Unite");
-    case Sira::KimeVerildigi: return QStringLiteral("KimeVerildigi");
+    case Sira::KimeVerildigi: return QStringLiteral("KimeVerildigi COLLATE TR");
     }
     return {};
 }
@@ -79,7 +79,7 @@ Komut Liste(const Kosullar& k)
     ekle(k.KimeVerildigi, QStringLiteral(" and KimeVerildigi like ? "), QString(k.KimeVerildigi + u'%'));
     ekle(k.Ozellik, QStringLiteral(" and Ozellik like ? "), QString(k.Ozellik + u'%'));
     ekle(k.HesapKod, QStringLiteral(" and HesapKod like ? "), QString(k.HesapKod + u'%'));
-    ekle(k.Ozellik4, QStringLiteral(" and Ozellik = ? "), k.Ozellik4);
+    ekle(k.Ozellik4, QStringLiteral(" and Ozellik = ? COLLATE TR "), k.Ozellik4);
     // FIS has no such column: the database refuses the statement, the screen
     // shows why.
     ekle(k.NeredenGeldigi, QStringLiteral(" and NeredenGeldigi = ? "), k.NeredenGeldigi);
@@ -111,7 +111,8 @@ QString SinifAdi(Veritabani& vt, const QString& hesapKod)
 QStringList Toplamlar(Veritabani& vt, const QString& ozellik)
 {
     QSqlQuery q = vt.Sorgu(QStringLiteral("Select ' Gelen :',Sum(val(Miktar)),'   Çıkan :',Sum(val(cikan)),"
-                                          "'   Kalan :',Sum(val(Miktar) - val(cikan)) From FIS  Where Ozellik = ? "),
+                                          "'   Kalan :',Sum(val(Miktar) - val(cikan)) From FIS  "
+                                          "Where Ozellik = ? COLLATE TR "),
                            {ozellik});
     QStringList hucreler;
     if (q.next())
@@ -123,12 +124,12 @@ QStringList Toplamlar(Veritabani& vt, const QString& ozellik)
 QStringList Ozellikler(Veritabani& vt)
 {
     // One item per description: the lines repeat them by the thousand.
-    return tekSutun(QStringLiteral("Select DISTINCT Ozellik from FIS ORDER BY Ozellik"), vt);
+    return tekSutun(QStringLiteral("Select DISTINCT Ozellik COLLATE TR from FIS ORDER BY 1"), vt);
 }
 
 QStringList NeredenGeldiler(Veritabani& vt)
 {
-    return tekSutun(QStringLiteral("Select NeredenGeldigi From FIS_B Order by NeredenGeldigi"), vt);
+    return tekSutun(QStringLiteral("Select NeredenGeldigi From FIS_B Order by NeredenGeldigi COLLATE TR"), vt);
 }
 
 std::optional<int> YaziBoyu(const QString& metin)

@@ -25,11 +25,14 @@ AcilanVeri VeriAc(const QString& klasor)
     AcilanVeri sonuc;
     // A file of an earlier version is converted while it opens: seconds on a
     // large one.
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const auto imlec = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
+    const auto ac = [&] {
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+        const auto imlec = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
+        return std::make_unique<Veri>(klasor);
+    };
     try {
         try {
-            sonuc.veri = std::make_unique<Veri>(klasor);
+            sonuc.veri = ac();
             sonuc.kopyaYazilabilir = !sonuc.veri->Olusturulanlar().contains(Dosya::Ayniyat);
         } catch (const EksikDosyaHatasi& eksik) {
             const QString soru =
@@ -40,7 +43,7 @@ AcilanVeri VeriAc(const QString& klasor)
             if (!EvetHayir(nullptr, soru, baslik, QMessageBox::Warning))
                 return {};
             VeriKlasoru::Olustur(klasor, eksik.Eksikler());
-            sonuc.veri = std::make_unique<Veri>(klasor);
+            sonuc.veri = ac();
             sonuc.kopyaYazilabilir = !eksik.Eksikler().contains(Dosya::Ayniyat);
         }
     } catch (const Hata& h) {

@@ -79,6 +79,10 @@ private slots:
 
     void kaydedilenFisAlanAlanGeriGelir()
     {
+        // Save, fetch and delete work on the connections held for the run:
+        // none opens a file of its own.
+        veri();
+        const QStringList baglantilar = QSqlDatabase::connectionNames();
         FisEkrani f = giris();
         QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), f, evet), KayitSonucu::Kaydedildi);
 
@@ -118,6 +122,8 @@ private slots:
         QVERIFY(!ilk.value("FCinss").isNull());
         QCOMPARE(ilk.value("BirimFiyat").toString(), QStringLiteral("125,50"));
         QCOMPARE(ilk.value("KabulSayi").toString(), QStringLiteral("12"));
+        FisKayit::Sil(veri().Ayniyat(), f);
+        QCOMPARE(QSqlDatabase::connectionNames(), baglantilar);
     }
 
     void numaraTurVeYilIleAyrilir()

@@ -1,3 +1,4 @@
+#include "gecici_veri.h"
 #include "etkinlestir.h"
 #include "cikti.h"
 #include "hesap_k.h"
@@ -26,23 +27,12 @@ using namespace Qt::StringLiterals;
 using HesapPlani::Adim;
 using HesapPlani::Sira;
 
-class TstHesapPlani : public QObject
+class TstHesapPlani : public QObject, protected GeciciVeri
 {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_tmp;
-
-    mutable std::unique_ptr<Veri> m_veri;
     QPointer<HESAP_K> m_ekran;
 
-    // The folder's files, opened at first use.
-    Veri& veri() const
-    {
-        if (!m_veri)
-            m_veri = std::make_unique<Veri>(klasor());
-        return *m_veri;
-    }
-    QString klasor() const { return m_tmp->path(); }
 
     // The first column of a statement on GENEL.MDB.
     QStringList sql(const QString& komut, const QVariantList& degerler = {})
@@ -101,8 +91,7 @@ class TstHesapPlani : public QObject
 private slots:
     void init()
     {
-        m_veri.reset();
-        m_tmp = std::make_unique<QTemporaryDir>();
+        Yenile();
     }
     void cleanup() { delete m_ekran; }
 

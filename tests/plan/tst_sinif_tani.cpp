@@ -1,3 +1,4 @@
+#include "gecici_veri.h"
 #include "cikti.h"
 #include "etkinlestir.h"
 #include "klavye.h"
@@ -46,23 +47,12 @@ QStringList sutun(const QList<QStringList>& satirlar, int i)
 
 }
 
-class TstSinifTani : public QObject
+class TstSinifTani : public QObject, protected GeciciVeri
 {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_tmp;
-
-    mutable std::unique_ptr<Veri> m_veri;
     QPointer<SinifTani> m_ekran;
 
-    // The folder's files, opened at first use.
-    Veri& veri() const
-    {
-        if (!m_veri)
-            m_veri = std::make_unique<Veri>(klasor());
-        return *m_veri;
-    }
-    QString klasor() const { return m_tmp->path(); }
 
     QVariant sql(const QString& komut, const QVariantList& degerler = {})
     {
@@ -105,8 +95,7 @@ class TstSinifTani : public QObject
 private slots:
     void init()
     {
-        m_veri.reset();
-        m_tmp = std::make_unique<QTemporaryDir>();
+        Yenile();
     }
     void cleanup() { delete m_ekran; }
 

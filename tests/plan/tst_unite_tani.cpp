@@ -1,3 +1,4 @@
+#include "gecici_veri.h"
 #include "etkinlestir.h"
 #include "cikti.h"
 #include "grid_yazdir.h"
@@ -23,23 +24,12 @@
 
 using namespace Qt::StringLiterals;
 
-class TstUniteTani : public QObject
+class TstUniteTani : public QObject, protected GeciciVeri
 {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_tmp;
-
-    mutable std::unique_ptr<Veri> m_veri;
     QPointer<Unite_TANI> m_ekran;
 
-    // The folder's files, opened at first use.
-    Veri& veri() const
-    {
-        if (!m_veri)
-            m_veri = std::make_unique<Veri>(klasor());
-        return *m_veri;
-    }
-    QString klasor() const { return m_tmp->path(); }
 
     QVariant sql(const QString& komut, const QVariantList& degerler = {})
     {
@@ -91,8 +81,7 @@ class TstUniteTani : public QObject
 private slots:
     void init()
     {
-        m_veri.reset();
-        m_tmp = std::make_unique<QTemporaryDir>();
+        Yenile();
     }
     void cleanup() { delete m_ekran; }
 

@@ -1,3 +1,4 @@
+#include "gecici_veri.h"
 #include "cikti.h"
 #include "grid_yazdir.h"
 #include "izgara.h"
@@ -37,22 +38,10 @@ QList<QStringList> Sayfalar(const Izgara& izgara)
 
 }
 
-class TstListeIzgarasi : public QObject
+class TstListeIzgarasi : public QObject, protected GeciciVeri
 {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_tmp;
-
-    mutable std::unique_ptr<Veri> m_veri;
-
-    // The folder's files, opened at first use.
-    Veri& veri() const
-    {
-        if (!m_veri)
-            m_veri = std::make_unique<Veri>(klasor());
-        return *m_veri;
-    }
-    QString klasor() const { return m_tmp->path(); }
 
     // Vouchers 1..n, each with the description Ö<no>.
     void yaz(int n)
@@ -76,8 +65,7 @@ class TstListeIzgarasi : public QObject
 private slots:
     void init()
     {
-        m_veri.reset();
-        m_tmp = std::make_unique<QTemporaryDir>();
+        Yenile();
     }
 
     void deposu()

@@ -1,3 +1,4 @@
+#include "gecici_veri.h"
 #include "etkinlestir.h"
 #include "modal_yanit.h"
 #include "sabit.h"
@@ -16,26 +17,15 @@
 
 using namespace Qt::StringLiterals;
 
-class TstSabit : public QObject
+class TstSabit : public QObject, protected GeciciVeri
 {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_tmp;
-
-    mutable std::unique_ptr<Veri> m_veri;
     QPointer<Sabit> m_ekran;
 
     static inline const QString kilit =
         u"create trigger kilit before update on Sabit begin select raise(abort, 'kilitli'); end"_s;
 
-    // The folder's files, opened at first use.
-    Veri& veri() const
-    {
-        if (!m_veri)
-            m_veri = std::make_unique<Veri>(klasor());
-        return *m_veri;
-    }
-    QString klasor() const { return m_tmp->path(); }
 
     // Runs a statement on GENEL.MDB; the first value of a query.
     QVariant sql(const QString& komut)
@@ -76,8 +66,7 @@ class TstSabit : public QObject
 private slots:
     void init()
     {
-        m_veri.reset();
-        m_tmp = std::make_unique<QTemporaryDir>();
+        Yenile();
     }
     void cleanup() { delete m_ekran; }
 

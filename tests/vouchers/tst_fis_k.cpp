@@ -1,3 +1,4 @@
+#include "gecici_veri.h"
 #include "etkinlestir.h"
 #include "cikti.h"
 #include "fis_izgara.h"
@@ -29,24 +30,13 @@
 
 using namespace Qt::StringLiterals;
 
-class TstFisK : public QObject
+class TstFisK : public QObject, protected GeciciVeri
 {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_tmp;
-
-    mutable std::unique_ptr<Veri> m_veri;
     QPointer<FIS_K> m_ekran;
     BellekCikti m_cikti;
 
-    // The folder's files, opened at first use.
-    Veri& veri() const
-    {
-        if (!m_veri)
-            m_veri = std::make_unique<Veri>(klasor());
-        return *m_veri;
-    }
-    QString klasor() const { return m_tmp->path(); }
 
     static QVariantMap giris() { return {{"ilk1", "1"}, {"FCins", "G"}, {"Hangi", "G"}}; }
     static QVariantMap cikis()
@@ -183,9 +173,8 @@ private slots:
     void init()
     {
         Saat::Ayarla(QDate(2026, 3, 14));
-        m_veri.reset();
-        m_tmp = std::make_unique<QTemporaryDir>();
-        m_veri = std::make_unique<Veri>(klasor());
+        Yenile();
+        veri();
         const QString sinif = u"insert into URUN_K (HesapKod, MalzAdi, Birimi, KDV1) values (?, ?, ?, ?)"_s;
         calistir(Dosya::Genel, sinif, {"150 01 01 001", "A4 Kağıt", "PAKET", "18"});
         calistir(Dosya::Genel, sinif, {"255 01 01 001", "Bilgisayar", "ADET", "20"});

@@ -1,3 +1,4 @@
+#include "gecici_veri.h"
 #include "fis_kayit.h"
 #include "saat.h"
 #include "tek_deger.h"
@@ -9,20 +10,9 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-class TstFisKayit : public QObject
+class TstFisKayit : public QObject, protected GeciciVeri
 {
     Q_OBJECT
-
-    QTemporaryDir m_tmp;
-    mutable std::unique_ptr<Veri> m_veri;
-    // The folder's files, opened at first use.
-    Veri& veri() const
-    {
-        if (!m_veri)
-            m_veri = std::make_unique<Veri>(klasor());
-        return *m_veri;
-    }
-    QString klasor() const { return m_tmp.path(); }
 
     static FisEkrani giris(const QString& no = QStringLiteral("5"))
     {
@@ -69,11 +59,7 @@ private slots:
     void init()
     {
         Saat::Ayarla(QDate(2026, 3, 14));
-        QVERIFY(m_tmp.isValid());
-        m_veri.reset();
-        for (const QString& ad : QDir(klasor()).entryList(QDir::Files))
-            QFile::remove(QDir(klasor()).filePath(ad));
-        m_veri = std::make_unique<Veri>(klasor());
+        Yenile();
     }
     void cleanup() { Saat::Ayarla({}); }
 

@@ -1,3 +1,4 @@
+#include "gecici_veri.h"
 #include "cikti.h"
 #include "etkinlestir.h"
 #include "fis_izgara.h"
@@ -25,23 +26,12 @@
 
 using namespace Qt::StringLiterals;
 
-class TstFisListesi : public QObject
+class TstFisListesi : public QObject, protected GeciciVeri
 {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_tmp;
-
-    mutable std::unique_ptr<Veri> m_veri;
     QPointer<FIS_L> m_liste;
 
-    // The folder's files, opened at first use.
-    Veri& veri() const
-    {
-        if (!m_veri)
-            m_veri = std::make_unique<Veri>(klasor());
-        return *m_veri;
-    }
-    QString klasor() const { return m_tmp->path(); }
     CalismaBaglami baglam() const { return {u"2026"_s, u"3"_s, QString(), &veri()}; }
 
     QStringList numaralar(const FisListesi::Suzgec& s)
@@ -92,9 +82,8 @@ private slots:
     void init()
     {
         Saat::Ayarla(QDate(2026, 3, 14));
-        m_veri.reset();
-        m_tmp = std::make_unique<QTemporaryDir>();
-        m_veri = std::make_unique<Veri>(klasor());
+        Yenile();
+        veri();
         Veritabani& vt = veri().Baglanti(Dosya::Ayniyat);
         const QString ekle = QStringLiteral("insert into FIS_B (FisNo, Tarih, FCins, TeslimAlan, Ozellik, BelgeSayi, "
                                             "NeredenGeldigi) values (?, ?, ?, ?, ?, ?, ?)");

@@ -1,3 +1,4 @@
+#include "gecici_veri.h"
 #include "cikti.h"
 #include "fis_kayit.h"
 #include "fis_satir.h"
@@ -11,21 +12,10 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-class TstFisSatir : public QObject
+class TstFisSatir : public QObject, protected GeciciVeri
 {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_tmp;
-
-    mutable std::unique_ptr<Veri> m_veri;
-    // The folder's files, opened at first use.
-    Veri& veri() const
-    {
-        if (!m_veri)
-            m_veri = std::make_unique<Veri>(klasor());
-        return *m_veri;
-    }
-    QString klasor() const { return m_tmp->path(); }
 
     void calistir(Dosya dosya, const QString& sql, const QVariantList& degerler)
     {
@@ -48,9 +38,8 @@ class TstFisSatir : public QObject
 private slots:
     void init()
     {
-        m_veri.reset();
-        m_tmp = std::make_unique<QTemporaryDir>();
-        m_veri = std::make_unique<Veri>(klasor());
+        Yenile();
+        veri();
     }
 
     void gridEnter_data()

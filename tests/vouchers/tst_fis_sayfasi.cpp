@@ -1,3 +1,4 @@
+#include "gecici_veri.h"
 #include "etkinlestir.h"
 #include "cikti.h"
 #include "fis_sayfasi.h"
@@ -87,28 +88,17 @@ QStringList yazilari(const Sayfa& s) { return yazilari(s.yazilar); }
 
 }
 
-class TstFisSayfasi : public QObject
+class TstFisSayfasi : public QObject, protected GeciciVeri
 {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_tmp;
-
-    mutable std::unique_ptr<Veri> m_veri;
     QPointer<FisYaz> m_ekran;
     BellekCikti m_cikti;
 
-    // The folder's files, opened at first use.
-    Veri& veri() const
-    {
-        if (!m_veri)
-            m_veri = std::make_unique<Veri>(klasor());
-        return *m_veri;
-    }
-    QString klasor() const { return m_tmp->path(); }
 
     void ac(const FisYazimi& y)
     {
-        m_veri = std::make_unique<Veri>(klasor());
+        veri();
         SabitKayit::Kaydet(veri().Genel(), sabit());
         m_ekran = new FisYaz({u"2026"_s, u"3"_s, u"Okul"_s, &veri()}, y);
         m_ekran->CiktiSec(&m_cikti);
@@ -120,8 +110,7 @@ class TstFisSayfasi : public QObject
 private slots:
     void init()
     {
-        m_veri.reset();
-        m_tmp = std::make_unique<QTemporaryDir>();
+        Yenile();
         m_cikti.belgeler.clear();
     }
     void cleanup() { delete m_ekran; }

@@ -1,3 +1,4 @@
+#include "gecici_veri.h"
 #include "etkinlestir.h"
 #include "fis_izgara.h"
 #include "fis_k.h"
@@ -20,23 +21,12 @@
 
 using namespace Qt::StringLiterals;
 
-class TstMalzemeListesi : public QObject
+class TstMalzemeListesi : public QObject, protected GeciciVeri
 {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_tmp;
-
-    mutable std::unique_ptr<Veri> m_veri;
     QPointer<FIS_K> m_fis;
 
-    // The folder's files, opened at first use.
-    Veri& veri() const
-    {
-        if (!m_veri)
-            m_veri = std::make_unique<Veri>(klasor());
-        return *m_veri;
-    }
-    QString klasor() const { return m_tmp->path(); }
 
     struct Satir
     {
@@ -93,9 +83,8 @@ private slots:
     void init()
     {
         Saat::Ayarla(QDate(2026, 3, 14));
-        m_veri.reset();
-        m_tmp = std::make_unique<QTemporaryDir>();
-        m_veri = std::make_unique<Veri>(klasor());
+        Yenile();
+        veri();
     }
     void cleanup()
     {

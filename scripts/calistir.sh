@@ -10,13 +10,9 @@ derleme="${TASINIR_DERLEME:-$kok/build}"
 program="$derleme/src/app/tasinir"
 veri="${TASINIR_VERI:-$HOME/Tasinir-veri}"
 
-shopt -s nocaseglob
-var=("$veri"/AYNIYAT.MDB)
-shopt -u nocaseglob
-if [ ! -e "${var[0]}" ]; then
-  echo "Örnek veri hazırlanıyor: $veri"
-  "$program" ornek-veri "$veri"
-fi
+# The sample goes only into a folder without records (a sample cut short is
+# taken out again when the folder opens, and written anew here).
+"$program" ornek-veri "$veri" --gerekirse
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
   exec "$program" --veri "$veri"

@@ -19,6 +19,7 @@
 #include <QDir>
 
 #include <cstdio>
+#include <memory>
 
 namespace {
 
@@ -60,21 +61,35 @@ void pdfYaz(const Sayfa& sayfa, const QString& dosya)
     p.EndDoc();
 }
 
-int ornekVeri(const QStringList& argumanlar, const QString& satirMetni)
+// Opens the folder and says which writes across files an interrupted run
+// left and the opening finished or undid.
+std::unique_ptr<Veri> ac(const QString& klasor)
+{
+    auto veri = std::make_unique<Veri>(klasor);
+    for (const QString& tamamlanan : veri->Tamamlananlar())
+        std::printf("%s\n", qPrintable(tamamlanan));
+    return veri;
+}
+
+int ornekVeri(const QStringList& argumanlar, const Komutlar::Secenekler& secenek)
 {
     if (argumanlar.size() < 2) {
-        hataYaz(QStringLiteral("Kullanım: tasinir ornek-veri KLASÖR [--satir N]"));
+        hataYaz(QStringLiteral("Kullanım: tasinir ornek-veri KLASÖR [--satir N] [--gerekirse]"));
         return 2;
     }
     bool tamam = true;
-    const int satir = satirMetni.isEmpty() ? 3000 : satirMetni.toInt(&tamam);
+    const int satir = secenek.satir.isEmpty() ? 3000 : secenek.satir.toInt(&tamam);
     if (!tamam || satir < 1) {
-        hataYaz(QStringLiteral("--satir bir pozitif tam sayı olmalı: %1").arg(satirMetni));
+        hataYaz(QStringLiteral("--satir bir pozitif tam sayı olmalı: %1").arg(secenek.satir));
         return 2;
     }
     const QString klasor = QDir(argumanlar.at(1)).absolutePath();
-    Veri veri(klasor);
-    OrnekVeriYaz(veri, satir);
+    const std::unique_ptr<Veri> veri = ac(klasor);
+    if (secenek.gerekirse && KayitVar(*veri)) {
+        std::printf("Klasörde kayıt var; örnek veri yazılmadı: %s\n", qPrintable(klasor));
+        return 0;
+    }
+    OrnekVeriYaz(*veri, satir);
     std::printf("Örnek veri yazıldı: %s\n", qPrintable(klasor));
     return 0;
 }
@@ -162,7 +177,7 @@ int Komutlar::Calistir(const QStringList& argumanlar, const QString& klasor, con
     const QString komut = argumanlar.value(0);
     try {
         if (komut == QLatin1String("ornek-veri"))
-            return ornekVeri(argumanlar, secenek.satir);
+            return ornekVeri(argumanlar, secenek);
         if (komut != QLatin1String("ornek-formlar") && komut != QLatin1String("kod-plani-yukle")
             && komut != QLatin1String("yazdir")) {
             hataYaz(QStringLiteral("Bilinmeyen komut: %1 (tasinir --help)").arg(komut));
@@ -170,12 +185,12 @@ int Komutlar::Calistir(const QStringList& argumanlar, const QString& klasor, con
         }
         // A folder that lacks a file or holds a bad one stops here, before
         // anything is written.
-        Veri veri(klasor);
+        const std::unique_ptr<Veri> veri = ac(klasor);
         if (komut == QLatin1String("ornek-formlar"))
-            return ornekFormlar(veri, secenek.cikti);
+            return ornekFormlar(*veri, secenek.cikti);
         if (komut == QLatin1String("kod-plani-yukle"))
-            return kodPlani(veri, argumanlar);
-        return yazdir(veri, argumanlar, secenek);
+            return kodPlani(*veri, argumanlar);
+        return yazdir(*veri, argumanlar, secenek);
     } catch (const Hata& h) {
         hataYaz(h.Mesaj());
     }

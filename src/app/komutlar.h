@@ -9,6 +9,7 @@ namespace Komutlar {
 struct Secenekler
 {
     QString satir;                       // ornek-veri: voucher lines
+    bool gerekirse = false;              // ornek-veri: only into a folder without records
     QString no, cins, yil, sayfa, cikti; // yazdir; cikti also for ornek-formlar
 };
 

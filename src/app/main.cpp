@@ -66,6 +66,8 @@ int main(int argc, char* argv[])
     const QCommandLineOption satir(QStringLiteral("satir"),
                                    QStringLiteral("ornek-veri: yazılacak fiş satırı sayısı (varsayılan 3000)."),
                                    QStringLiteral("sayı"));
+    const QCommandLineOption gerekirse(QStringLiteral("gerekirse"),
+                                       QStringLiteral("ornek-veri: klasörde kayıt varsa bir şey yazmadan çıkar."));
     const QCommandLineOption cikti(QStringLiteral("cikti"),
                                    QStringLiteral("ornek-formlar: PDF'lerin yazılacağı klasör "
                                                   "(varsayılan: veri klasöründe formlar); "
@@ -78,7 +80,7 @@ int main(int argc, char* argv[])
     const QCommandLineOption sayfa(QStringLiteral("sayfa"),
                                    QStringLiteral("yazdir: fis (varsayılan), zimmet ya da istek."),
                                    QStringLiteral("tür"));
-    parser.addOptions({veri, satir, cikti, no, cins, yil, sayfa});
+    parser.addOptions({veri, satir, gerekirse, cikti, no, cins, yil, sayfa});
     parser.addPositionalArgument(QStringLiteral("komut"),
                                  QStringLiteral("ornek-veri KLASÖR: boş bir klasöre örnek veri yazar.\n"
                                                 "ornek-formlar: örnek verinin formlarını PDF olarak yazar.\n"
@@ -94,8 +96,8 @@ int main(int argc, char* argv[])
 
     if (!komut.isEmpty())
         return Komutlar::Calistir(argumanlar, klasor,
-                                  {parser.value(satir), parser.value(no), parser.value(cins), parser.value(yil),
-                                   parser.value(sayfa), parser.value(cikti)});
+                                  {parser.value(satir), parser.isSet(gerekirse), parser.value(no), parser.value(cins),
+                                   parser.value(yil), parser.value(sayfa), parser.value(cikti)});
     try {
         return pencereli(klasor);
     } catch (const Hata& h) {

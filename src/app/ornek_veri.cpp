@@ -1,5 +1,6 @@
 #include "ornek_veri.h"
 
+#include "dosyalar_arasi.h"
 #include "fis_kayit.h"
 #include "saat.h"
 #include "veri.h"
@@ -586,14 +587,12 @@ int miktarUstu(bool tuketim, qint64 fiyat)
     return lira < 1000 ? 30 : lira < 10000 ? 10 : lira < 100000 ? 3 : 1;
 }
 
-void bosOlmali(Veritabani& vt, std::initializer_list<const char*> tablolar, const QString& klasor)
+bool satirVar(Veritabani& vt, std::initializer_list<const char*> tablolar)
 {
-    for (const char* tablo : tablolar) {
-        QSqlQuery sorgu = vt.Sorgu(QStringLiteral("select count(*) from %1").arg(QLatin1String(tablo)));
-        if (sorgu.next() && sorgu.value(0).toLongLong() > 0)
-            throw VeriHatasi(QStringLiteral("Örnek veri yalnız boş bir veri klasörüne yazılır: %1")
-                                 .arg(QDir::toNativeSeparators(klasor)));
-    }
+    for (const char* tablo : tablolar)
+        if (!vt.Satirlar(QStringLiteral("select 1 from %1 limit 1").arg(QLatin1String(tablo))).isEmpty())
+            return true;
+    return false;
 }
 
 void sabitleriYaz(Veritabani& vt)
@@ -973,6 +972,11 @@ private:
 
 }
 
+bool KayitVar(Veri& veri)
+{
+    return satirVar(veri.Genel(), {"URUN_K", "Unite_K", "Firma_K"}) || satirVar(veri.Ayniyat(), {"FIS_B", "FIS"});
+}
+
 void OrnekVeriYaz(Veri& veri, int satir)
 {
     const QString& klasor = veri.Klasor();
@@ -981,18 +985,33 @@ void OrnekVeriYaz(Veri& veri, int satir)
     // Room for the indexes of a large set: the default cache sends every
     // index page back and forth to the disk.
     ayniyat.Calistir(QStringLiteral("PRAGMA cache_size = -65536"));
-    Islem genelIslem(genel);
-    Islem ayniyatIslem(ayniyat);
-    bosOlmali(genel, {"URUN_K", "Unite_K", "Firma_K"}, klasor);
-    bosOlmali(ayniyat, {"FIS_B", "FIS"}, klasor);
-
-    Zar zar;
-    sabitleriYaz(genel);
-    const std::vector<Sinif> siniflar = siniflariYaz(genel, zar);
-    uniteleriYaz(genel);
-    const std::vector<Firma> firmaListesi = firmalariYaz(genel, siniflar, zar);
-    FisUretici(ayniyat, siniflar, firmaListesi, zar).Yaz(satir);
-
-    ayniyatIslem.Onayla();
-    genelIslem.Onayla();
+    if (KayitVar(veri))
+        throw VeriHatasi(QStringLiteral("Örnek veri yalnız boş bir veri klasörüne yazılır: %1")
+                             .arg(QDir::toNativeSeparators(klasor)));
+    // The vouchers commit before the classes they name: until the classes
+    // are in, a record says how to take the vouchers out again, and the next
+    // opening does so if the run ends in between.
+    const qint64 kayit = DosyalarArasi::Kaydet(genel, QStringLiteral("Örnek veri"), true,
+                                               {{Dosya::Ayniyat, QStringLiteral("delete from FIS"), {}},
+                                                {Dosya::Ayniyat, QStringLiteral("delete from FIS_B"), {}}});
+    try {
+        Islem genelIslem(genel);
+        Islem ayniyatIslem(ayniyat);
+        Zar zar;
+        sabitleriYaz(genel);
+        const std::vector<Sinif> siniflar = siniflariYaz(genel, zar);
+        uniteleriYaz(genel);
+        const std::vector<Firma> firmaListesi = firmalariYaz(genel, siniflar, zar);
+        FisUretici(ayniyat, siniflar, firmaListesi, zar).Yaz(satir);
+        ayniyatIslem.Onayla();
+        DosyalarArasi::Sil(genel, kayit);
+        genelIslem.Onayla();
+    } catch (...) {
+        try {
+            DosyalarArasi::Uygula(veri, kayit);
+        } catch (const VeriHatasi&) {
+            // The record stays; the next opening takes the vouchers out.
+        }
+        throw;
+    }
 }

@@ -60,6 +60,10 @@ const char* const genelTablolar[] = {
     "CREATE TABLE IF NOT EXISTS Kul (ad TEXT COLLATE NOCASE, parola TEXT)",
     "CREATE TABLE IF NOT EXISTS yetki (ad TEXT COLLATE NOCASE, yetki TEXT COLLATE NOCASE)",
     "CREATE TABLE IF NOT EXISTS GOREV (GorevKod TEXT COLLATE NOCASE, Ad TEXT COLLATE NOCASE)",
+    // Writes across files that an interrupted run left for the next opening
+    // to finish or undo (see DosyalarArasi).
+    "CREATE TABLE IF NOT EXISTS BEKLEYEN (No INTEGER PRIMARY KEY, Aciklama TEXT, GeriAl INTEGER,"
+    " Komutlar BLOB)",
 };
 
 const char* const ayniyatTablolar[] = {
@@ -111,6 +115,9 @@ const char* const hesapKodTablolar[] = {
     // class screen; both columns hold it.
     "CREATE TABLE IF NOT EXISTS HesapKod2 ("
     " HesapKod TEXT COLLATE NOCASE, HesapAd TEXT COLLATE NOCASE, MalzAdi TEXT COLLATE NOCASE)",
+    // A loaded code list finds its rows by code, not by a scan per line.
+    "CREATE INDEX IF NOT EXISTS HesapKod1_Alanlar ON HesapKod1 (Alan1, Alan2, Alan3, Alan4, Alan5, Alan6)",
+    "CREATE INDEX IF NOT EXISTS HesapKod2_HesapKod ON HesapKod2 (HesapKod)",
 };
 
 const char* const okulTablolar[] = {

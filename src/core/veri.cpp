@@ -1,5 +1,6 @@
 #include "veri.h"
 
+#include "dosyalar_arasi.h"
 #include "sema.h"
 #include "veri_klasoru.h"
 
@@ -13,6 +14,7 @@ Veri::Veri(const QString& klasor) : m_klasor(klasor), m_olusturulanlar(VeriKlaso
         Sema::Tamamla(*vt, d);
         m_baglantilar[std::size_t(d)] = std::move(vt);
     }
+    m_tamamlananlar = DosyalarArasi::Tamamla(*this);
 }
 
 Veri::~Veri() = default;

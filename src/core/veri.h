@@ -4,6 +4,7 @@
 #include "veritabani.h"
 
 #include <QList>
+#include <QStringList>
 
 #include <array>
 #include <memory>
@@ -15,8 +16,9 @@ class Veri
 {
 public:
     // Makes the folder ready (see VeriKlasoru::Hazirla) and opens every data
-    // file, so that a missing or unreadable one is named at once. Throws
-    // EksikDosyaHatasi or VeriHatasi.
+    // file, so that a missing or unreadable one is named at once, and
+    // finishes or undoes the writes across files an interrupted run left
+    // (DosyalarArasi). Throws EksikDosyaHatasi or VeriHatasi.
     explicit Veri(const QString& klasor);
     ~Veri();
     Veri(const Veri&) = delete;
@@ -25,6 +27,9 @@ public:
     const QString& Klasor() const { return m_klasor; }
     // The files this object made because the folder was new.
     const QList<Dosya>& Olusturulanlar() const { return m_olusturulanlar; }
+    // Writes across files that an interrupted run left, finished or undone
+    // while opening, as sentences for the user.
+    const QStringList& Tamamlananlar() const { return m_tamamlananlar; }
 
     Veritabani& Baglanti(Dosya dosya);
     Veritabani& Genel() { return Baglanti(Dosya::Genel); }
@@ -34,5 +39,6 @@ public:
 private:
     QString m_klasor;
     QList<Dosya> m_olusturulanlar;
+    QStringList m_tamamlananlar;
     std::array<std::unique_ptr<Veritabani>, std::size(VeriDosyalari)> m_baglantilar;
 };

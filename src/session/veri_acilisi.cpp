@@ -50,5 +50,7 @@ AcilanVeri VeriAc(const QString& klasor)
         QMessageBox::critical(nullptr, baslik, h.Mesaj());
         return {};
     }
+    if (!sonuc.veri->Tamamlananlar().isEmpty())
+        QMessageBox::information(nullptr, baslik, sonuc.veri->Tamamlananlar().join(u'\n'));
     return sonuc;
 }

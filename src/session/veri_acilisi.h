@@ -16,5 +16,6 @@ struct AcilanVeri
 // Opens the folder. When a folder that holds data lacks a file, the file is
 // named and the user asked whether an empty one is to be made in its place;
 // on a no, or a file that cannot be read, the message is shown and no data
-// comes back.
+// comes back. Writes across files that an interrupted run left, finished or
+// undone while opening, are told in a message.
 AcilanVeri VeriAc(const QString& klasor);

@@ -79,6 +79,8 @@ void Veritabani::Ac(bool yeni)
         // screen must not stop a save on another.
         Calistir(QStringLiteral("PRAGMA journal_mode = WAL"));
         Calistir(QStringLiteral("PRAGMA synchronous = FULL"));
+        // A -wal grown by one large write goes back to this size.
+        Calistir(QStringLiteral("PRAGMA journal_size_limit = 4194304"));
         if (yeni)
             Calistir(QStringLiteral("PRAGMA application_id = %1").arg(UygulamaKimligi));
     } catch (...) {
@@ -252,4 +254,10 @@ void Islem::Onayla()
 {
     m_vt.Hazir(m_ic ? QStringLiteral("RELEASE islem") : QStringLiteral("COMMIT")).Calistir();
     m_acik = false;
+    // The file itself takes the write at once, so that a copy of the .MDB
+    // alone holds it and the -wal stays small. A reader still at work only
+    // holds part of it back until the next write.
+    if (!m_ic)
+        sqlite3_wal_checkpoint_v2(static_cast<sqlite3*>(m_vt.Tutamac()), nullptr, SQLITE_CHECKPOINT_PASSIVE,
+                                  nullptr, nullptr);
 }

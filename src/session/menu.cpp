@@ -188,6 +188,8 @@ Menu::Menu(Veri& veri, QWidget* ebeveyn)
     setCentralWidget(merkez);
 
     MenuCubugunuKur();
+    // Where the monthly copy says it is done.
+    statusBar()->setSizeGripEnabled(false);
     // Wide enough for the whole menu bar at once.
     resize(qMax(sizeHint().width(), menuBar()->sizeHint().width()), sizeHint().height());
     for (const auto& [dugme, hedef] : std::as_const(m_dugmeler))

@@ -35,6 +35,8 @@ Sonuc calistir(const QStringList& komut)
     QProcess p;
     p.setProcessChannelMode(QProcess::MergedChannels);
     p.start(komut.first(), komut.mid(1));
+    if (!p.waitForStarted())
+        return {-1, false, QStringLiteral("başlatılamadı: %1 (%2)").arg(komut.first(), p.errorString())};
     if (!p.waitForFinished(SurecSuresi)) {
         p.kill();
         p.waitForFinished();
@@ -392,7 +394,7 @@ private slots:
                                         QStringLiteral("-o"), QStringLiteral("size=%1k").arg(kb),
                                         QStringLiteral("tmpfs"), disk});
         if (baglama.kod != 0)
-            QSKIP(qPrintable(QStringLiteral("Küçük bir tmpfs bağlanamadı (root yetkisi gerekir): ")
+            QSKIP(qPrintable(QStringLiteral("Küçük bir tmpfs bağlanamadı (root ve mount izni gerekir): ")
                              + baglama.cikti.trimmed()));
         const struct Ayir
         {

@@ -128,6 +128,8 @@ class TstKazalar : public QObject
     QString m_kodListesi;
     QMap<QString, Islem> m_islemler;
     int m_sira = 0;
+    int m_toplamDeneme = 0;
+    int m_toplamHata = 0;
 
     QString yeniKlasor(const QString& ust)
     {
@@ -315,6 +317,8 @@ private slots:
         qInfo("Hazırlık: %lld ms", sure.elapsed());
     }
 
+    void cleanupTestCase() { qInfo("Toplam: %d deneme, %d hata", m_toplamDeneme, m_toplamHata); }
+
     void kesinti_data()
     {
         QTest::addColumn<QString>("islem");
@@ -363,6 +367,8 @@ private slots:
             }
             QDir(klasor).removeRecursively();
         }
+        m_toplamDeneme += deneme;
+        m_toplamHata += int(karisiklar.size() + digerleri.size());
         qInfo("%s/%s: %d deneme (%d süreç öldürüldü), %d hata (%d dosyalar arası); hatalı K: %s",
               qPrintable(islem), qPrintable(cagri), deneme, olen, int(karisiklar.size() + digerleri.size()),
               int(karisiklar.size()), qPrintable(basarisizK.join(u',')));
@@ -448,6 +454,8 @@ private slots:
         for (int pay = 1; pay < 4; ++pay)
             if (const qint64 bosluk = yeter * pay / 4; dene(bosluk))
                 basarilar << QString::number(bosluk);
+        m_toplamDeneme += deneme;
+        m_toplamHata += int(karisiklar.size() + digerleri.size() + basarilar.size());
         qInfo("%s, dolu disk: en az %lld bayt boşlukla başarılı; %d deneme, %d hata (%d dosyalar arası)",
               qPrintable(islem), yeter, deneme, int(karisiklar.size() + digerleri.size() + basarilar.size()),
               int(karisiklar.size()));

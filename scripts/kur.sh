@@ -8,6 +8,7 @@ PAKETLER=(
   qt6-base-dev qt6-base-dev-tools libqt6sql6-sqlite libqt6opengl6-dev
   qt6-qpa-plugins libgl-dev
   libsqlite3-dev sqlite3
+  strace
   libzip-dev
   fonts-liberation2 fontconfig
   poppler-utils xvfb xauth

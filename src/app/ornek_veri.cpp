@@ -988,13 +988,12 @@ void OrnekVeriYaz(Veri& veri, int satir)
     if (KayitVar(veri))
         throw VeriHatasi(QStringLiteral("Örnek veri yalnız boş bir veri klasörüne yazılır: %1")
                              .arg(QDir::toNativeSeparators(klasor)));
-    // The vouchers commit before the classes they name: until the classes
-    // are in, a record says how to take the vouchers out again, and the next
-    // opening does so if the run ends in between.
-    const qint64 kayit = DosyalarArasi::Kaydet(genel, QStringLiteral("Örnek veri"), true,
+    // The vouchers commit before the classes they name, under a record that
+    // takes them out again until the classes are in.
+    const qint64 kayit = DosyalarArasi::Kaydet(genel, QStringLiteral("Örnek veri"),
                                                {{Dosya::Ayniyat, QStringLiteral("delete from FIS"), {}},
                                                 {Dosya::Ayniyat, QStringLiteral("delete from FIS_B"), {}}});
-    try {
+    DosyalarArasi::Yaz(veri, kayit, [&] {
         Islem genelIslem(genel);
         Islem ayniyatIslem(ayniyat);
         Zar zar;
@@ -1006,12 +1005,5 @@ void OrnekVeriYaz(Veri& veri, int satir)
         ayniyatIslem.Onayla();
         DosyalarArasi::Sil(genel, kayit);
         genelIslem.Onayla();
-    } catch (...) {
-        try {
-            DosyalarArasi::Uygula(veri, kayit);
-        } catch (const VeriHatasi&) {
-            // The record stays; the next opening takes the vouchers out.
-        }
-        throw;
-    }
+    });
 }

@@ -39,11 +39,11 @@ QList<DosyalarArasi::Komut> oku(const QByteArray& veri)
 
 }
 
-qint64 DosyalarArasi::Kaydet(Veritabani& genel, const QString& aciklama, bool geriAl, const QList<Komut>& komutlar)
+qint64 DosyalarArasi::Kaydet(Veritabani& genel, const QString& aciklama, const QList<Komut>& komutlar)
 {
     Islem islem(genel);
-    genel.Calistir(QStringLiteral("insert into BEKLEYEN (Aciklama, GeriAl, Komutlar) values (?, ?, ?)"),
-                   {aciklama, geriAl ? 1 : 0, yaz(komutlar)});
+    genel.Calistir(QStringLiteral("insert into BEKLEYEN (Aciklama, Komutlar) values (?, ?)"),
+                   {aciklama, yaz(komutlar)});
     const qint64 no = genel.Satirlar(QStringLiteral("select last_insert_rowid()")).value(0).value(0).toLongLong();
     islem.Onayla();
     return no;
@@ -79,15 +79,27 @@ void DosyalarArasi::Sil(Veritabani& genel, qint64 no)
     genel.Calistir(QStringLiteral("delete from BEKLEYEN where No = ?"), {no});
 }
 
+void DosyalarArasi::Yaz(Veri& veri, qint64 no, const std::function<void()>& yaz)
+{
+    try {
+        yaz();
+    } catch (...) {
+        try {
+            Uygula(veri, no);
+        } catch (const VeriHatasi&) {
+            // The record stays; the next opening runs it.
+        }
+        throw;
+    }
+}
+
 QStringList DosyalarArasi::Tamamla(Veri& veri)
 {
     QStringList sonuc;
     for (const QStringList& kayit :
-         veri.Genel().Satirlar(QStringLiteral("select No, Aciklama, GeriAl from BEKLEYEN order by No"))) {
+         veri.Genel().Satirlar(QStringLiteral("select No, Aciklama from BEKLEYEN order by No"))) {
         Uygula(veri, kayit.at(0).toLongLong());
-        sonuc << (kayit.at(2).toInt() ? QStringLiteral("Yarım kalan işlem geri alındı: %1")
-                                      : QStringLiteral("Yarım kalan işlem tamamlandı: %1"))
-                     .arg(kayit.at(1));
+        sonuc << QStringLiteral("Yarım kalan işlem geri alındı: %1").arg(kayit.at(1));
     }
     return sonuc;
 }

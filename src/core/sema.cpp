@@ -61,9 +61,8 @@ const char* const genelTablolar[] = {
     "CREATE TABLE IF NOT EXISTS yetki (ad TEXT COLLATE NOCASE, yetki TEXT COLLATE NOCASE)",
     "CREATE TABLE IF NOT EXISTS GOREV (GorevKod TEXT COLLATE NOCASE, Ad TEXT COLLATE NOCASE)",
     // Writes across files that an interrupted run left for the next opening
-    // to finish or undo (see DosyalarArasi).
-    "CREATE TABLE IF NOT EXISTS BEKLEYEN (No INTEGER PRIMARY KEY, Aciklama TEXT, GeriAl INTEGER,"
-    " Komutlar BLOB)",
+    // to undo (see DosyalarArasi).
+    "CREATE TABLE IF NOT EXISTS BEKLEYEN (No INTEGER PRIMARY KEY, Aciklama TEXT, Komutlar BLOB)",
 };
 
 const char* const ayniyatTablolar[] = {

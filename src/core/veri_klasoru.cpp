@@ -15,6 +15,12 @@
 
 namespace {
 
+// New files are built in a folder of their own beside the data, renamed when
+// all are complete, then moved in one by one; an opening finishes the move
+// or drops a build cut short, so a set of new files comes in whole.
+const char* const yapimKlasoru = "olusturuluyor.tmp";
+const char* const hazirKlasoru = "olusturuldu.tmp";
+
 QStringList adlar(const QList<Dosya>& dosyalar)
 {
     QStringList liste;
@@ -44,6 +50,25 @@ bool veriVar(const QString& klasor)
                 return true;
     }
     return false;
+}
+
+void yarimKalaniBitir(const QString& klasor)
+{
+    const QDir dizin(klasor);
+    QDir(dizin.filePath(QLatin1String(yapimKlasoru))).removeRecursively();
+    const QDir hazir(dizin.filePath(QLatin1String(hazirKlasoru)));
+    if (!hazir.exists())
+        return;
+    for (const QString& ad : hazir.entryList(QDir::Files)) {
+        // An empty file in the way holds nothing; replaced in one step.
+        const QString hedef = VeriKlasoru::DosyaYolu(klasor, ad);
+        std::error_code hata;
+        std::filesystem::rename(hazir.filePath(ad).toStdU16String(), hedef.toStdU16String(), hata);
+        if (hata)
+            throw VeriHatasi(QStringLiteral("\"%1\" oluşturulamadı: %2")
+                                 .arg(QDir::toNativeSeparators(hedef), QString::fromLocal8Bit(hata.message())));
+    }
+    QDir(hazir).removeRecursively();
 }
 
 }
@@ -101,6 +126,7 @@ QList<Dosya> VeriKlasoru::Hazirla(const QString& klasor)
     if (!deneme.open())
         throw VeriHatasi(QStringLiteral("Veri klasörüne yazılamıyor: %1").arg(klasor));
     deneme.close();
+    yarimKalaniBitir(klasor);
 
     QList<Dosya> eksikler;
     for (Dosya d : VeriDosyalari)
@@ -121,28 +147,33 @@ QList<Dosya> VeriKlasoru::Hazirla(const QString& klasor)
 
 void VeriKlasoru::Olustur(const QString& klasor, const QList<Dosya>& dosyalar)
 {
-    for (Dosya d : dosyalar) {
-        const QString hedef = DosyaYolu(klasor, DosyaAdi(d));
-        const QString gecici = hedef + QStringLiteral(".yeni");
-        Sil(gecici);
-        try {
-            Veritabani vt(gecici, Acilis::Yeni);
+    QDir dizin(klasor);
+    QDir(dizin.filePath(QLatin1String(yapimKlasoru))).removeRecursively();
+    if (!dizin.mkdir(QLatin1String(yapimKlasoru)))
+        throw VeriHatasi(QStringLiteral("Veri klasörüne yazılamıyor: %1").arg(QDir::toNativeSeparators(klasor)));
+    const QDir yapim(dizin.filePath(QLatin1String(yapimKlasoru)));
+    try {
+        for (Dosya d : dosyalar) {
+            Veritabani vt(yapim.filePath(DosyaAdi(d)), Acilis::Yeni);
             Islem islem(vt);
             vt.Calistir(QStringLiteral("PRAGMA user_version = %1").arg(Sema::Surum));
             Sema::Tamamla(vt, d);
             Sema::TeslimSatirlari(vt, d);
             islem.Onayla();
-        } catch (...) {
-            Sil(gecici);
-            throw;
+            // Everything into the file itself before it moves: a -wal left
+            // behind (a full disk stops the checkpoint) would stay behind.
+            const QString kip = vt.Satirlar(QStringLiteral("PRAGMA journal_mode = DELETE")).value(0).value(0);
+            if (kip.compare(QLatin1String("delete"), Qt::CaseInsensitive) != 0)
+                throw VeriHatasi(QStringLiteral("\"%1\" oluşturulamadı: dosya diske yazılamadı.").arg(DosyaAdi(d)));
         }
-        // An empty file in the way holds nothing; replaced in one step.
-        std::error_code hata;
-        std::filesystem::rename(gecici.toStdU16String(), hedef.toStdU16String(), hata);
-        if (hata) {
-            Sil(gecici);
-            throw VeriHatasi(QStringLiteral("\"%1\" oluşturulamadı: %2")
-                                 .arg(QDir::toNativeSeparators(hedef), QString::fromLocal8Bit(hata.message())));
-        }
+    } catch (...) {
+        QDir(yapim).removeRecursively();
+        throw;
     }
+    // Complete: from here on an opening moves the files in.
+    if (!dizin.rename(QLatin1String(yapimKlasoru), QLatin1String(hazirKlasoru))) {
+        QDir(yapim).removeRecursively();
+        throw VeriHatasi(QStringLiteral("Veri klasörüne yazılamıyor: %1").arg(QDir::toNativeSeparators(klasor)));
+    }
+    yarimKalaniBitir(klasor);
 }

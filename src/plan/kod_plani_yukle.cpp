@@ -7,32 +7,40 @@
 
 namespace {
 
-// The reference plan's rows of one code, as statements that give the same
-// rows when run again: the name replaced where the code is, the row added
-// where it is not.
-QList<DosyalarArasi::Komut> referansKomutlari(const KodSatiri& s)
+const QString alanKosulu =
+    QStringLiteral(" where Alan1 = ? and Alan2 = ? and Alan3 = ? and Alan4 = ? and Alan5 = ? and Alan6 = ?");
+
+// The code's groups as the six code fields of HesapKod1.
+QVariantList alanlar(const QString& kod)
 {
-    QStringList gruplar = s.kod.split(u' ');
+    QStringList gruplar = kod.split(u' ');
     while (gruplar.size() < 6)
         gruplar.append(QStringLiteral(""));  // empty, not NULL
-    const QVariantList alanlar(gruplar.cbegin(), gruplar.cbegin() + 6);
-    const QString alanKosulu =
-        QStringLiteral("Alan1 = ? and Alan2 = ? and Alan3 = ? and Alan4 = ? and Alan5 = ? and Alan6 = ?");
-    return {
-        {Dosya::HesapKod, QStringLiteral("update HesapKod1 set Alan7 = ? where ") + alanKosulu,
-         QVariantList{s.ad} + alanlar},
-        {Dosya::HesapKod,
-         QStringLiteral("insert into HesapKod1 (Alan1, Alan2, Alan3, Alan4, Alan5, Alan6, Alan7) "
-                        "select ?, ?, ?, ?, ?, ?, ? where not exists (select 1 from HesapKod1 where ")
-             + alanKosulu + u')',
-         alanlar + QVariantList{s.ad} + alanlar},
-        {Dosya::HesapKod, QStringLiteral("update HesapKod2 set HesapAd = ?, MalzAdi = ? where HesapKod = ?"),
-         {s.ad, s.ad, s.kod}},
-        {Dosya::HesapKod,
-         QStringLiteral("insert into HesapKod2 (HesapKod, HesapAd, MalzAdi) select ?, ?, ? "
-                        "where not exists (select 1 from HesapKod2 where HesapKod = ?)"),
-         {s.kod, s.ad, s.ad, s.kod}},
-    };
+    return QVariantList(gruplar.cbegin(), gruplar.cbegin() + 6);
+}
+
+// What takes the reference plan's rows of the code back to where they are
+// now: the old name again, or no row.
+QList<DosyalarArasi::Komut> geriAlma(Veritabani& hk, const QString& kod)
+{
+    QList<DosyalarArasi::Komut> geri;
+    const QVariantList alan = alanlar(kod);
+    const QList<QStringList> eski1 = hk.Satirlar(QStringLiteral("select Alan7 from HesapKod1") + alanKosulu, alan);
+    if (eski1.isEmpty())
+        geri << DosyalarArasi::Komut{Dosya::HesapKod, QStringLiteral("delete from HesapKod1") + alanKosulu, alan};
+    else
+        geri << DosyalarArasi::Komut{Dosya::HesapKod, QStringLiteral("update HesapKod1 set Alan7 = ?") + alanKosulu,
+                                     QVariantList{eski1[0][0]} + alan};
+    const QList<QStringList> eski2 =
+        hk.Satirlar(QStringLiteral("select HesapAd, MalzAdi from HesapKod2 where HesapKod = ?"), {kod});
+    if (eski2.isEmpty())
+        geri << DosyalarArasi::Komut{Dosya::HesapKod, QStringLiteral("delete from HesapKod2 where HesapKod = ?"),
+                                     {kod}};
+    else
+        geri << DosyalarArasi::Komut{Dosya::HesapKod,
+                                     QStringLiteral("update HesapKod2 set HesapAd = ?, MalzAdi = ? where HesapKod = ?"),
+                                     {eski2[0][0], eski2[0][1], kod}};
+    return geri;
 }
 
 }
@@ -41,13 +49,34 @@ KodPlaniSonucu KodPlaniYukle(Veri& veri, const QString& dosya)
 {
     const QList<KodSatiri> satirlar = KodListesiOku(dosya);
     Veritabani& vt = veri.Genel();
+    Veritabani& hk = veri.HesapKod();
+    // The reference plan is written first, under a record that takes it back
+    // until the plan is in.
+    QList<DosyalarArasi::Komut> geri;
+    for (const KodSatiri& s : satirlar)
+        geri += geriAlma(hk, s.kod);
+    const qint64 kayit = DosyalarArasi::Kaydet(
+        vt, QStringLiteral("Hesap planı yüklemesi (%1 kod)").arg(satirlar.size()), geri);
     KodPlaniSonucu sonuc;
-    QList<DosyalarArasi::Komut> referans;
-    qint64 kayit = 0;
-    {
-        // The plan and the record of the reference plan's rows commit
-        // together; the reference plan follows, and is finished at the next
-        // opening if the run ends before.
+    DosyalarArasi::Yaz(veri, kayit, [&] {
+        {
+            Islem islem(hk);
+            for (const KodSatiri& s : satirlar) {
+                const QVariantList alan = alanlar(s.kod);
+                if (hk.Hazir(QStringLiteral("update HesapKod1 set Alan7 = ?") + alanKosulu)
+                        .Calistir(QVariantList{s.ad} + alan)
+                    == 0)
+                    hk.Hazir(QStringLiteral("insert into HesapKod1 (Alan1, Alan2, Alan3, Alan4, Alan5, Alan6, "
+                                            "Alan7) values (?, ?, ?, ?, ?, ?, ?)"))
+                        .Calistir(alan + QVariantList{s.ad});
+                if (hk.Hazir(QStringLiteral("update HesapKod2 set HesapAd = ?, MalzAdi = ? where HesapKod = ?"))
+                        .Calistir({s.ad, s.ad, s.kod})
+                    == 0)
+                    hk.Hazir(QStringLiteral("insert into HesapKod2 (HesapKod, HesapAd, MalzAdi) values (?, ?, ?)"))
+                        .Calistir({s.kod, s.ad, s.ad});
+            }
+            islem.Onayla();
+        }
         Islem islem(vt);
         for (const KodSatiri& s : satirlar) {
             QSqlQuery var = vt.Sorgu(QStringLiteral("select HesapAd from HESAP_K where HesapKod = ?"), {s.kod});
@@ -62,12 +91,9 @@ KodPlaniSonucu KodPlaniYukle(Veri& veri, const QString& dosya)
             } else {
                 ++sonuc.ayni;
             }
-            referans += referansKomutlari(s);
         }
-        kayit = DosyalarArasi::Kaydet(vt, QStringLiteral("Hesap planı yüklemesi (%1 kod)").arg(satirlar.size()),
-                                      false, referans);
+        DosyalarArasi::Sil(vt, kayit);
         islem.Onayla();
-    }
-    DosyalarArasi::Uygula(veri, kayit);
+    });
     return sonuc;
 }

@@ -204,7 +204,8 @@ private slots:
             QCOMPARE(tek(veri.Genel(), u"select count(*) from Sabit"_s).toInt(), 1);
             QCOMPARE(tek(veri.Ayniyat(), u"select count(*) from FIS"_s).toInt(), 0);
         }
-        QVERIFY(!QFile::exists(tmp.filePath(eksik + u".yeni"_s)));
+        QVERIFY(!QDir(tmp.filePath(u"olusturuluyor.tmp"_s)).exists());
+        QVERIFY(!QDir(tmp.filePath(u"olusturuldu.tmp"_s)).exists());
     }
 
     void yazilamayanKlasorAcikcaSoylenir()

@@ -255,25 +255,6 @@ class TstKazalar : public QObject
 
     // Open defects, each a write over several files that is not one piece:
     // the operation's rows fail today and pass (XPASS) once it is fixed.
-    static QString bilinenKusur(const QString& islem)
-    {
-        const QString ornekVeri = QStringLiteral(
-            "Açık kusur: OrnekVeriYaz önce AYNIYAT.MDB'nin, sonra GENEL.MDB'nin işlemini onaylar; arada kesilince "
-            "fişler sınıfsız ve ünitesiz kalır.");
-        if (islem == QLatin1String("kod-plani-yukle"))
-            return QStringLiteral(
-                "Açık kusur: kod-plani-yukle GENEL.MDB'yi ve ona bağlı (ATTACH) HESAPKOD.MDB'yi tek işlemde yazar, "
-                "ama WAL kipinde SQLite her dosyayı ayrı onaylar; arada kesilince kodlar yalnız HESAP_K'da kalır.");
-        if (islem == QLatin1String("ornek-veri"))
-            return ornekVeri;
-        if (islem == QLatin1String("ornek-veri-dosyasiz"))
-            return QStringLiteral("Açık kusur: VeriKlasoru::Olustur yeni klasörün dosyalarını birer birer yerine "
-                                  "koyar; arada kesilince klasörde bazı dosyalar olur, bazıları olmaz ve klasör "
-                                  "açılmaz. ")
-                   + ornekVeri;
-        return {};
-    }
-
 private slots:
     void initTestCase()
     {
@@ -323,15 +304,14 @@ private slots:
     {
         QTest::addColumn<QString>("islem");
         QTest::addColumn<QString>("cagri");
-        QTest::addColumn<QString>("bilinenKusur");
         for (const Islem& is : std::as_const(m_islemler))
             for (const QString& c : Cagrilar)
                 if (is.cagriSayisi.value(c) > 0) {
                     const QString ad = is.ad + u'/' + c;
-                    QTest::newRow(qPrintable(ad)) << is.ad << c << bilinenKusur(is.ad);
+                    QTest::newRow(qPrintable(ad)) << is.ad << c;
                 }
         if (m_strace.isEmpty())
-            QTest::newRow("strace-yok") << QString() << QString() << QString();
+            QTest::newRow("strace-yok") << QString() << QString();
     }
 
     void kesinti()
@@ -340,7 +320,6 @@ private slots:
             QSKIP("strace yok ya da ptrace'e izin verilmiyor: süreçler çağrılarında öldürülemez.");
         QFETCH(QString, islem);
         QFETCH(QString, cagri);
-        QFETCH(QString, bilinenKusur);
         const Islem& is = m_islemler[islem];
         const QString ust = QDir(m_tmp.path()).filePath(QStringLiteral("kesinti"));
         int deneme = 0;
@@ -373,17 +352,14 @@ private slots:
               qPrintable(islem), qPrintable(cagri), deneme, olen, int(karisiklar.size() + digerleri.size()),
               int(karisiklar.size()), qPrintable(basarisizK.join(u',')));
         QVERIFY2(digerleri.isEmpty(), qPrintable(digerleri.join(u'\n')));
-        if (!bilinenKusur.isEmpty())
-            QEXPECT_FAIL("", qPrintable(bilinenKusur), Continue);
         QVERIFY2(karisiklar.isEmpty(), qPrintable(karisiklar.join(u'\n')));
     }
 
     void doluDisk_data()
     {
         QTest::addColumn<QString>("islem");
-        QTest::addColumn<QString>("bilinenKusur");
         for (const Islem& is : std::as_const(m_islemler))
-            QTest::newRow(qPrintable(is.ad)) << is.ad << bilinenKusur(is.ad);
+            QTest::newRow(qPrintable(is.ad)) << is.ad;
     }
 
     // On a disk without room for what the operation adds it must say so,
@@ -391,7 +367,6 @@ private slots:
     void doluDisk()
     {
         QFETCH(QString, islem);
-        QFETCH(QString, bilinenKusur);
         const Islem& is = m_islemler[islem];
         const QString disk = QDir(m_tmp.path()).filePath(QStringLiteral("disk"));
         QVERIFY(QDir().mkpath(disk));
@@ -462,8 +437,6 @@ private slots:
         QVERIFY2(basarilar.isEmpty(),
                  qPrintable(QStringLiteral("Daha az boşlukla başarı bildirdi: ") + basarilar.join(u',')));
         QVERIFY2(digerleri.isEmpty(), qPrintable(digerleri.join(u'\n')));
-        if (!bilinenKusur.isEmpty())
-            QEXPECT_FAIL("", qPrintable(bilinenKusur), Continue);
         QVERIFY2(karisiklar.isEmpty(), qPrintable(karisiklar.join(u'\n')));
     }
 };

@@ -1,4 +1,5 @@
 #include "cikti_ekran.h"
+#include "dosya_siniri.h"
 #include "sayfa_gorunumu.h"
 #include "yazici.h"
 
@@ -64,6 +65,9 @@ class TstCikti : public QObject
 private slots:
     void pdf();
     void pdfYazilamaz();
+    void pdfDiskDolu();
+    void pdfTamam_data();
+    void pdfTamam();
     void yaziciCikti();
     void onizleme();
     void gorunumBoyu_data();
@@ -96,9 +100,58 @@ void TstCikti::pdf()
 
 void TstCikti::pdfYazilamaz()
 {
-    PdfCikti cikti(m_klasor.filePath(u"olmayan/klasor/belge.pdf"_s));
-    QTest::ignoreMessage(QtWarningMsg, "QPainter::begin(): Returned false");
-    QVERIFY_THROWS_EXCEPTION(YaziciHatasi, cikti.Yaz(OrnekBelge()));
+    const QString dosya = m_klasor.filePath(u"olmayan/klasor/belge.pdf"_s);
+    try {
+        PdfCikti(dosya).Yaz(OrnekBelge());
+        QFAIL("olmayan klasöre yazıldı");
+    } catch (const YaziciHatasi& h) {
+        QVERIFY2(h.Mesaj().startsWith(u"\"%1\" yazılamadı ("_s.arg(dosya)), qPrintable(h.Mesaj()));
+    }
+}
+
+// A disk that fills up halfway leaves the old file as it was and nothing
+// beside it.
+void TstCikti::pdfDiskDolu()
+{
+    QTemporaryDir klasor;
+    const QString dosya = klasor.filePath(u"belge.pdf"_s);
+    QFile eski(dosya);
+    QVERIFY(eski.open(QIODevice::WriteOnly));
+    eski.write("eski");
+    eski.close();
+    try {
+        DosyaSiniri sinir(1024);
+        PdfCikti(dosya).Yaz(OrnekBelge());
+        QFAIL("yarım kalan belge yazıldı sayıldı");
+    } catch (const YaziciHatasi& h) {
+        QVERIFY2(h.Mesaj().contains(u"Diskte yer"_s), qPrintable(h.Mesaj()));
+    }
+    QVERIFY(eski.open(QIODevice::ReadOnly));
+    QCOMPARE(eski.readAll(), "eski");
+    QCOMPARE(QDir(klasor.path()).entryList(QDir::Files), QStringList{u"belge.pdf"_s});
+}
+
+void TstCikti::pdfTamam_data()
+{
+    QTest::addColumn<QByteArray>("icerik");
+    QTest::addColumn<bool>("tamam");
+    QTest::newRow("tam") << QByteArray("%PDF-1.4\n1 0 obj\n%%EOF") << true;
+    QTest::newRow("sonda satır sonları") << QByteArray("%PDF-1.4\n%%EOF\r\n \n") << true;
+    QTest::newRow("boş") << QByteArray() << false;
+    QTest::newRow("yarıda kesilmiş") << QByteArray("%PDF-1.4\n%%EOF\n1 0 obj") << false;
+    QTest::newRow("başlıksız") << QByteArray("1 0 obj\n%%EOF") << false;
+}
+
+void TstCikti::pdfTamam()
+{
+    QFETCH(QByteArray, icerik);
+    QFETCH(bool, tamam);
+    const QString dosya = m_klasor.filePath(u"denetlenen.pdf"_s);
+    QFile f(dosya);
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    f.write(icerik);
+    f.close();
+    QCOMPARE(PdfTamam(dosya), tamam);
 }
 
 // The printer path, through a QPrinter that writes a file.

@@ -134,8 +134,7 @@ QList<KodSatiri> KodListesiOku(const QString& dosya, KodListesiBilgisi* bilgi)
             throw VeriHatasi(satirHatasi(
                 no, QStringLiteral("%1 kodu %2. satırda da var.").arg(alinti(kod)).arg(*onceki)));
         if (ad.size() > KodAdiSiniri) {
-            // A surrogate pair is kept whole or left out whole.
-            ad = ad.left(KodAdiSiniri - (ad.at(KodAdiSiniri - 1).isHighSurrogate() ? 1 : 0)).trimmed();
+            ad.truncate(KodAdiSiniri);
             ++okunan.kesilen;
         }
         gorulen.insert(kod, no);

@@ -101,10 +101,6 @@ private slots:
                                     << u"UTF-8"_s
                                     << QStringList{"1|150 01|"_L1 + QString(50, u'ç'), "2|150 02|"_L1 + QString(50, u'x')}
                                     << 2;
-        QTest::newRow("kesilen yerde boşluk") << QByteArray("150 01\t") + QByteArray(49, 'a') + "  b" << u"UTF-8"_s
-                                              << QStringList{"1|150 01|"_L1 + QString(49, u'a')} << 1;
-        QTest::newRow("sınırda vekil çift") << ("150 01\t" + QString(49, u'a') + u"😀b"_s).toUtf8() << u"UTF-8"_s
-                                            << QStringList{"1|150 01|"_L1 + QString(49, u'a')} << 1;
     }
 
     void okur()

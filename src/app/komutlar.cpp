@@ -165,8 +165,11 @@ int kodPlani(Veri& veri, const QStringList& argumanlar)
         return 2;
     }
     const KodPlaniSonucu sonuc = KodPlaniYukle(veri, argumanlar.at(1));
-    std::printf("Hesap planı yüklendi: %d yeni, %d adı değişen, %d aynı kod.\n", sonuc.eklenen,
-                sonuc.adiDegisen, sonuc.ayni);
+    std::printf("Hesap planı yüklendi: %d yeni, %d adı değişen, %d aynı kod. Dosya %s olarak okundu.\n",
+                sonuc.eklenen, sonuc.adiDegisen, sonuc.ayni, qPrintable(sonuc.okunan.kodlama));
+    if (sonuc.okunan.kesilen > 0)
+        std::printf("%d ad %lld karakterden uzundu; %lld karakterde kesildi.\n", sonuc.okunan.kesilen,
+                    qint64(KodAdiSiniri), qint64(KodAdiSiniri));
     return 0;
 }
 

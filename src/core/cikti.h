@@ -13,6 +13,7 @@ class YaziciHatasi : public Hata
 {
 public:
     YaziciHatasi() : Hata(QStringLiteral("Belge yazdırılamıyor..")) {}
+    explicit YaziciHatasi(const QString& mesaj) : Hata(mesaj) {}
 };
 
 // Where a finished document goes when Yazici::EndDoc hands it over.
@@ -35,6 +36,8 @@ public:
     QList<Belge> belgeler;
 };
 
+// Writes the document as a PDF file. The file takes the place of an old one
+// only whole: a write that fails leaves the old file, or none, and throws.
 class PdfCikti : public Cikti
 {
 public:
@@ -44,6 +47,10 @@ public:
 private:
     QString m_dosya;
 };
+
+// Whether the file holds a whole PDF: its header first and its end mark
+// last, which a writer cut short never reaches.
+bool PdfTamam(const QString& dosya);
 
 // Draws the pages on A4, each in its own orientation. False when the device
 // cannot be opened or cannot start a page.

@@ -61,10 +61,10 @@ void Veritabani::Ac(bool yeni)
         db.setDatabaseName(m_yol);
         db.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=5000"));
         if (!db.open()) {
-            const QString hata = db.lastError().text();
+            const QSqlError hata = db.lastError();
             db = QSqlDatabase();
             QSqlDatabase::removeDatabase(m_ad);
-            throw VeriHatasi(QStringLiteral("\"%1\" açılamadı: %2").arg(m_yol, hata));
+            throw Hata(hata);
         }
     }
     try {
@@ -129,6 +129,33 @@ void bagla(QSqlQuery& sorgu, const QVariantList& degerler)
     }
 }
 
+// What the user can do about the engine's common failures; empty for the
+// rest, which only the engine's own text describes.
+QString kodunCumlesi(int kod)
+{
+    switch (kod & 0xFF) {
+    case SQLITE_FULL:
+        return QStringLiteral("Diskte yer kalmadı; yer açıp yeniden deneyiniz.");
+    case SQLITE_READONLY:
+        return QStringLiteral("Dosyaya yazılamıyor; dosyanın ve klasörünün yazma iznini denetleyiniz.");
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return QStringLiteral("Dosyayı başka bir program ya da pencere kullanıyor; biraz bekleyip yeniden "
+                              "deneyiniz.");
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+        return QStringLiteral("Dosya bozulmuş; programı kapatıp dosyayı yedeğinden geri alınız.");
+    case SQLITE_IOERR:
+        return QStringLiteral("Dosya okunurken ya da yazılırken disk hatası oldu; diski ve bağlantısını "
+                              "denetleyip yeniden deneyiniz.");
+    case SQLITE_CANTOPEN:
+        return QStringLiteral("Dosya açılamadı; yerinde olduğunu ve okunabildiğini denetleyiniz.");
+    case SQLITE_CONSTRAINT:
+        return QStringLiteral("Kayıt dosyanın bir kuralına uymuyor (aynı anahtar iki kez gibi); kaydı "
+                              "denetleyiniz.");
+    }
+    return {};
+}
 
 }
 
@@ -137,16 +164,29 @@ QSqlQuery Veritabani::Sorgu(const QString& sql, const QVariantList& degerler)
     QSqlQuery sorgu(Baglanti());
     sorgu.setForwardOnly(true);
     if (!sorgu.prepare(sql))
-        throw Hata(sorgu.lastError().text());
+        throw Hata(sorgu.lastError());
     bagla(sorgu, degerler);
     if (!sorgu.exec())
-        throw Hata(sorgu.lastError().text());
+        throw Hata(sorgu.lastError());
     return sorgu;
 }
 
-VeriHatasi Veritabani::Hata(const QString& ayrinti) const
+VeriHatasi Veritabani::Hata(int kod, const QString& ayrinti) const
 {
-    return VeriHatasi(QStringLiteral("Veri tabanı hatası (%1): %2").arg(QFileInfo(m_yol).fileName(), ayrinti));
+    const QString cumle = kodunCumlesi(kod);
+    return VeriHatasi(QStringLiteral("Veri tabanı hatası (%1): %2")
+                          .arg(QFileInfo(m_yol).fileName(),
+                               cumle.isEmpty() ? ayrinti : QStringLiteral("%1 Ayrıntı: %2").arg(cumle, ayrinti)));
+}
+
+VeriHatasi Veritabani::Hata(const QSqlError& hata) const
+{
+    return Hata(hata.nativeErrorCode().toInt(), hata.text());
+}
+
+VeriHatasi Veritabani::Hata(sqlite3* db) const
+{
+    return Hata(sqlite3_extended_errcode(db), QString::fromUtf8(sqlite3_errmsg(db)));
 }
 
 HazirKomut& Veritabani::Hazir(const QString& sql)
@@ -162,7 +202,7 @@ HazirKomut::HazirKomut(Veritabani& vt, const QString& sql) : m_vt(vt)
     auto* db = static_cast<sqlite3*>(vt.Tutamac());
     const QByteArray metin = sql.toUtf8();
     if (sqlite3_prepare_v2(db, metin.constData(), int(metin.size()), &m_komut, nullptr) != SQLITE_OK)
-        throw vt.Hata(QString::fromUtf8(sqlite3_errmsg(db)));
+        throw vt.Hata(db);
 }
 
 HazirKomut::~HazirKomut()
@@ -197,13 +237,13 @@ int HazirKomut::Calistir(const QVariantList& degerler)
         }
         }
         if (rc != SQLITE_OK)
-            throw m_vt.Hata(QString::fromUtf8(sqlite3_errmsg(db)));
+            throw m_vt.Hata(db);
     }
     const int rc = sqlite3_step(m_komut);
     sqlite3_reset(m_komut);
     sqlite3_clear_bindings(m_komut);
     if (rc != SQLITE_DONE && rc != SQLITE_ROW)
-        throw m_vt.Hata(QString::fromUtf8(sqlite3_errmsg(db)));
+        throw m_vt.Hata(db);
     return sqlite3_changes(db);
 }
 

@@ -11,6 +11,8 @@
 #include <memory>
 
 class HazirKomut;
+class QSqlError;
+struct sqlite3;
 
 // The application id every file of ours carries in its header.
 constexpr int UygulamaKimligi = 0x54534E52;  // "TSNR"
@@ -51,7 +53,11 @@ public:
 private:
     friend class HazirKomut;
     void Ac(bool yeni);
-    VeriHatasi Hata(const QString& ayrinti) const;
+    // The engine's result code turned into what the user can do, the
+    // engine's own text after it as the detail.
+    VeriHatasi Hata(int kod, const QString& ayrinti) const;
+    VeriHatasi Hata(const QSqlError& hata) const;
+    VeriHatasi Hata(sqlite3* db) const;
 
     QString m_yol;
     QString m_ad;

@@ -1,7 +1,6 @@
 #include "kod_plani_yukle.h"
 
 #include "dosyalar_arasi.h"
-#include "kod_listesi_oku.h"
 #include "veri.h"
 #include "veritabani.h"
 
@@ -47,7 +46,8 @@ QList<DosyalarArasi::Komut> geriAlma(Veritabani& hk, const QString& kod)
 
 KodPlaniSonucu KodPlaniYukle(Veri& veri, const QString& dosya)
 {
-    const QList<KodSatiri> satirlar = KodListesiOku(dosya);
+    KodPlaniSonucu sonuc;
+    const QList<KodSatiri> satirlar = KodListesiOku(dosya, &sonuc.okunan);
     Veritabani& vt = veri.Genel();
     Veritabani& hk = veri.HesapKod();
     // The reference plan is written first, under a record that takes it back
@@ -57,7 +57,6 @@ KodPlaniSonucu KodPlaniYukle(Veri& veri, const QString& dosya)
         geri += geriAlma(hk, s.kod);
     const qint64 kayit = DosyalarArasi::Kaydet(
         vt, QStringLiteral("Hesap planı yüklemesi (%1 kod)").arg(satirlar.size()), geri);
-    KodPlaniSonucu sonuc;
     DosyalarArasi::Yaz(veri, kayit, [&] {
         {
             Islem islem(hk);

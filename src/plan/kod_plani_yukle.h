@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kod_listesi_oku.h"
+
 #include <QString>
 
 class Veri;
@@ -13,6 +15,7 @@ struct KodPlaniSonucu
     int eklenen = 0;
     int adiDegisen = 0;
     int ayni = 0;
+    KodListesiBilgisi okunan;  // the file's encoding, the names cut
 };
 
 // Throws VeriHatasi with the line number of the first bad line.

@@ -418,6 +418,50 @@ private slots:
                      .toInt(),
                  3);
     }
+
+    // Both ways of running a statement say in Turkish what to do, the
+    // engine's text after it. As root a chmod would not stop the writes; the
+    // engine's own read-only switch fails them the same way.
+    void saltOkunurDosyaTurkceSoylenir()
+    {
+        QTemporaryDir tmp;
+        Veritabani vt(tmp.filePath(u"deneme.db"_s), Acilis::Yeni);
+        vt.Calistir(u"create table t (a)"_s);
+        vt.Calistir(u"PRAGMA query_only = 1"_s);
+        const QString sql = u"insert into t (a) values (1)"_s;
+        for (const bool hazir : {false, true}) {
+            try {
+                hazir ? vt.Hazir(sql).Calistir() : vt.Calistir(sql);
+                QFAIL("salt okunur dosyaya yazıldı");
+            } catch (const VeriHatasi& h) {
+                QVERIFY2(h.Mesaj().startsWith(u"Veri tabanı hatası (deneme.db): Dosyaya yazılamıyor; dosyanın ve "
+                                              u"klasörünün yazma iznini denetleyiniz. Ayrıntı: attempt to write"_s),
+                         qPrintable(h.Mesaj()));
+            }
+        }
+    }
+
+    void bozukDosyaTurkceSoylenir()
+    {
+        QTemporaryDir tmp;
+        const QString yol = tmp.filePath(u"deneme.db"_s);
+        {
+            Veritabani vt(yol, Acilis::Yeni);
+            vt.Calistir(u"create table t (a)"_s);
+        }
+        QFile dosya(yol);
+        QVERIFY(dosya.open(QIODevice::ReadWrite) && dosya.seek(100));  // the header still says ours
+        dosya.write(QByteArray(dosya.size() - 100, '\xAB'));
+        dosya.close();
+        try {
+            Veritabani(yol).Sorgu(u"select count(*) from t"_s);
+            QFAIL("bozuk dosya okundu");
+        } catch (const VeriHatasi& h) {
+            QVERIFY2(h.Mesaj().startsWith(u"Veri tabanı hatası (deneme.db): Dosya bozulmuş; programı kapatıp "
+                                          u"dosyayı yedeğinden geri alınız. Ayrıntı: "_s),
+                     qPrintable(h.Mesaj()));
+        }
+    }
 };
 
 QTEST_GUILESS_MAIN(TstVeritabani)

@@ -1,3 +1,4 @@
+#include "kod_listesi_oku.h"
 #include "kod_plani_yukle.h"
 #include "tek_deger.h"
 #include "veri_klasoru.h"
@@ -7,6 +8,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
+
+using namespace Qt::StringLiterals;
 
 class TstKodPlaniYukle : public QObject
 {
@@ -101,6 +104,48 @@ private slots:
         QVERIFY(hepsi(veri) == once);
     }
 
+    void okur_data()
+    {
+        QTest::addColumn<QByteArray>("icerik");
+        QTest::addColumn<QString>("kodlama");
+        QTest::addColumn<QStringList>("satirlar");
+        QTest::addColumn<int>("kesilen");
+        QTest::newRow("BOM") << QByteArray("\xEF\xBB\xBF" "150 01\tKırtasiye\n") << u"UTF-8"_s
+                             << QStringList{u"1|150 01|Kırtasiye"_s} << 0;
+        QTest::newRow("Windows-1254") << QByteArray("150 01\tK\xFDrtasiye \xDE\xD0\xDD\xFE\xF0\x80\x9F\n")
+                                      << u"Windows-1254"_s << QStringList{u"1|150 01|Kırtasiye ŞĞİşğ€Ÿ"_s} << 0;
+        // Valid UTF-8 up to a lead byte at the very end.
+        QTest::newRow("sonda yarım UTF-8") << QByteArray("150 01\tÇ\xC3") << u"Windows-1254"_s
+                                           << QStringList{u"1|150 01|Ã‡Ã"_s} << 0;
+        QTest::newRow("CR, LF, CRLF") << QByteArray("150 01\tA\r150 02\tB\r\n\r\n150 03\tC\n150 04\tD")
+                                      << u"UTF-8"_s
+                                      << QStringList{u"1|150 01|A"_s, u"2|150 02|B"_s, u"4|150 03|C"_s,
+                                                     u"5|150 04|D"_s}
+                                      << 0;
+        QTest::newRow("sınırda ad") << "150 01\t" + QString(50, u'ç').toUtf8() << u"UTF-8"_s
+                                    << QStringList{"1|150 01|"_L1 + QString(50, u'ç')} << 0;
+        QTest::newRow("uzun adlar") << "150 01\t" + QString(51, u'ç').toUtf8() + "\n150 02\t" + QByteArray(5 << 20, 'x')
+                                    << u"UTF-8"_s
+                                    << QStringList{"1|150 01|"_L1 + QString(50, u'ç'), "2|150 02|"_L1 + QString(50, u'x')}
+                                    << 2;
+    }
+
+    void okur()
+    {
+        QFETCH(QByteArray, icerik);
+        QFETCH(QString, kodlama);
+        QFETCH(QStringList, satirlar);
+        QFETCH(int, kesilen);
+        QTemporaryDir tmp;
+        KodListesiBilgisi bilgi;
+        QStringList okunan;
+        for (const KodSatiri& s : KodListesiOku(dosya(tmp, icerik), &bilgi))
+            okunan << u"%1|%2|%3"_s.arg(s.satirNo).arg(s.kod, s.ad);
+        QCOMPARE(okunan, satirlar);
+        QCOMPARE(bilgi.kodlama, kodlama);
+        QCOMPARE(bilgi.kesilen, kesilen);
+    }
+
     void bozukSatirdaHicbirSeyYazilmaz_data()
     {
         QTest::addColumn<QByteArray>("icerik");
@@ -115,6 +160,26 @@ private slots:
                                 << QStringLiteral("Satır 2: \"150 12\" kodunun adı boş.");
         QTest::newRow("iki kez") << QByteArray("150 12\tYeni\n150 01\tYeni Ad\n150 12\tYine\n")
                                  << QStringLiteral("Satır 3: \"150 12\" kodu 1. satırda da var.");
+        QTest::newRow("CR ile biten satırlar") << QByteArray("150 01\tYeni Ad\r150 12\tYeni\r15 01\tBozuk\r")
+                                               << u"Satır 3: \"15 01\" kodu"_s;
+        QTest::newRow("uzun kod") << QByteArray(100, '1') + "\tAd\n"
+                                  << u"Satır 1: \"%1…\" kodu XXX"_s.arg(QString(40, u'1'));
+        QTest::newRow("üçüncü sütun")
+            << QByteArray("150 01\tYeni Ad\n150 12\tYeni\tFazla\n")
+            << u"Satır 2: iki sütundan fazlası var (ikinci bir sekme): \"150 12\\tYeni\\tFazla\"."_s;
+        QTest::newRow("NUL") << QByteArray("150 01\tYeni Ad\n150 12\tKırta") + '\0' + "siye\n"
+                             << u"Satır 2: izin verilmeyen bir denetim karakteri (\\x00) var: "
+                                u"\"150 12\\tKırta\\x00siye\"."_s;
+        QTest::newRow("yalnız sayfa sonu") << QByteArray("150 01\tYeni Ad\n \f\n")
+                                           << u"Satır 2: izin verilmeyen bir denetim karakteri (\\x0c)"_s;
+        QTest::newRow("DEL") << QByteArray("150 01\tYeni Ad\n150 12\tYeni\x7f\n")
+                             << u"Satır 2: izin verilmeyen bir denetim karakteri (\\x7f)"_s;
+        QTest::newRow("1254'te tanımsız bayt") << QByteArray("150 01\tYeni Ad\n150 12\tK\xFDrtasiye\x81\n")
+                                               << u"Satır 2: izin verilmeyen bir denetim karakteri (\\x81)"_s;
+        QTest::newRow("uzun satırın sonunda kaçış")
+            << QByteArray("150 12\t") + QByteArray(60, 'a') + "\x1b\n"
+            << u"Satır 1: izin verilmeyen bir denetim karakteri (\\x1b) var: \"150 12\\t%1…\"."_s.arg(
+                   QString(33, u'a'));
     }
 
     void bozukSatirdaHicbirSeyYazilmaz()

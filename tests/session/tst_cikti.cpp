@@ -64,6 +64,8 @@ class TstCikti : public QObject
 private slots:
     void pdf();
     void pdfYazilamaz();
+    void pdfTamam_data();
+    void pdfTamam();
     void yaziciCikti();
     void onizleme();
     void gorunumBoyu_data();
@@ -97,8 +99,30 @@ void TstCikti::pdf()
 void TstCikti::pdfYazilamaz()
 {
     PdfCikti cikti(m_klasor.filePath(u"olmayan/klasor/belge.pdf"_s));
-    QTest::ignoreMessage(QtWarningMsg, "QPainter::begin(): Returned false");
     QVERIFY_THROWS_EXCEPTION(YaziciHatasi, cikti.Yaz(OrnekBelge()));
+}
+
+void TstCikti::pdfTamam_data()
+{
+    QTest::addColumn<QByteArray>("icerik");
+    QTest::addColumn<bool>("tamam");
+    QTest::newRow("tam") << QByteArray("%PDF-1.4\n1 0 obj\n%%EOF") << true;
+    QTest::newRow("sonda satır sonları") << QByteArray("%PDF-1.4\n%%EOF\r\n \n") << true;
+    QTest::newRow("boş") << QByteArray() << false;
+    QTest::newRow("yarıda kesilmiş") << QByteArray("%PDF-1.4\n%%EOF\n1 0 obj") << false;
+    QTest::newRow("başlıksız") << QByteArray("1 0 obj\n%%EOF") << false;
+}
+
+void TstCikti::pdfTamam()
+{
+    QFETCH(QByteArray, icerik);
+    QFETCH(bool, tamam);
+    const QString dosya = m_klasor.filePath(u"denetlenen.pdf"_s);
+    QFile f(dosya);
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    f.write(icerik);
+    f.close();
+    QCOMPARE(PdfTamam(dosya), tamam);
 }
 
 // The printer path, through a QPrinter that writes a file.

@@ -1,0 +1,89 @@
+#include "komutlar.h"
+#include "ornek_veri.h"
+#include "veri.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+#include <sys/resource.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// While it lives no file may grow past the given size: a write beyond it
+// fails as on a full disk, which a test cannot mount. The signal is ignored
+// so the write fails instead of the process.
+struct DosyaSiniri
+{
+    explicit DosyaSiniri(rlim_t bayt) : isleyici(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        getrlimit(RLIMIT_FSIZE, &eski);
+        const rlimit yeni{bayt, eski.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &yeni);
+    }
+    ~DosyaSiniri()
+    {
+        setrlimit(RLIMIT_FSIZE, &eski);
+        std::signal(SIGXFSZ, isleyici);
+    }
+    void (*isleyici)(int);
+    rlimit eski{};
+};
+
+}
+
+// The commands that draw PDF files; fonts need a GUI application.
+class TstKomutlar : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void yazilamayanBelgeBasariSayilmaz_data()
+    {
+        QTest::addColumn<QStringList>("argumanlar");
+        QTest::addColumn<QString>("dosya");
+        QTest::addColumn<rlim_t>("sinir");
+        QTest::newRow("ornek-formlar, disk dolu") << QStringList{u"ornek-formlar"_s} << QString() << rlim_t(1024);
+        QTest::newRow("yazdir, disk dolu") << QStringList{u"yazdir"_s, u"fis"_s} << u"fis.pdf"_s << rlim_t(1024);
+        QTest::newRow("yazdir, klasörü bir dosya") << QStringList{u"yazdir"_s, u"fis"_s} << u"engel/fis.pdf"_s
+                                                   << rlim_t(RLIM_INFINITY);
+    }
+
+    // The command fails; an old file stays as it was and nothing is left
+    // cut short beside it.
+    void yazilamayanBelgeBasariSayilmaz()
+    {
+        QFETCH(QStringList, argumanlar);
+        QFETCH(QString, dosya);
+        QFETCH(rlim_t, sinir);
+        QTemporaryDir dizin;
+        Veri v(dizin.path());  // held open: the command's own opening then writes nothing
+        OrnekVeriYaz(v, 50);
+        const QDir cikti(dizin.path());
+        QFile eski(cikti.filePath(u"fis.pdf"_s));
+        QVERIFY(eski.open(QIODevice::WriteOnly) && eski.write("eski") == 4);
+        eski.close();
+        QFile(cikti.filePath(u"engel"_s)).open(QIODevice::WriteOnly);
+        const QStringList once = cikti.entryList(QDir::Files);
+        Komutlar::Secenekler secenek;
+        secenek.no = u"1"_s;
+        secenek.cins = u"G"_s;
+        secenek.yil = u"2025"_s;
+        secenek.cikti = cikti.filePath(dosya);
+        int sonuc = 0;
+        {
+            DosyaSiniri s(sinir);
+            sonuc = Komutlar::Calistir(argumanlar, dizin.path(), secenek);
+        }
+        QCOMPARE(sonuc, 1);
+        QCOMPARE(cikti.entryList(QDir::Files), once);
+        QVERIFY(eski.open(QIODevice::ReadOnly));
+        QCOMPARE(eski.readAll(), "eski");
+    }
+};
+
+QTEST_MAIN(TstKomutlar)
+#include "tst_komutlar.moc"

@@ -34,6 +34,22 @@ double ortanca(std::vector<double> ms)
     return ms[ms.size() / 2];
 }
 
+// Shows the movement list of the conditions and reads its first screen;
+// the timer runs from the query on.
+void ilkEkran(ListeIzgarasi& liste, Veri& veri, const MalzemeListesi::Kosullar& k, QElapsedTimer& t)
+{
+    liste.Genislikler(MalzemeListesi::Genislikler());
+    liste.Basliklar(MalzemeListesi::Basliklar());
+    liste.resize(1200, 600);
+    liste.show();
+    t.start();
+    const MalzemeListesi::Komut komut = MalzemeListesi::Liste(k);
+    liste.Doldur(veri.Ayniyat(), komut.sql, komut.degerler);
+    QCoreApplication::processEvents();
+    for (int r = 1; r <= ekranSatiri; ++r)
+        liste.TextMatrix(r, 1);
+}
+
 // Median milliseconds to the first screen, and the rows the list counts.
 std::pair<double, int> olc(Veri& veri, const MalzemeListesi::Kosullar& k)
 {
@@ -41,16 +57,8 @@ std::pair<double, int> olc(Veri& veri, const MalzemeListesi::Kosullar& k)
     int satir = 0;
     for (int tur = 0; tur < 5; ++tur) {
         ListeIzgarasi liste;
-        liste.Genislikler(MalzemeListesi::Genislikler());
-        liste.resize(1200, 600);
-        liste.show();
         QElapsedTimer t;
-        t.start();
-        const MalzemeListesi::Komut komut = MalzemeListesi::Liste(k);
-        liste.Doldur(veri.Ayniyat(), komut.sql, komut.degerler);
-        QCoreApplication::processEvents();
-        for (int r = 1; r <= ekranSatiri; ++r)
-            liste.TextMatrix(r, 1);
+        ilkEkran(liste, veri, k, t);
         sureler.push_back(t.nsecsElapsed() / 1e6);
         satir = liste.Rows() - 1;
     }
@@ -100,17 +108,8 @@ void gezinti(const char* ad, Veri& veri, const MalzemeListesi::Kosullar& k)
     tepeyiSifirla();
     const double baslangic = bellek("VmRSS");
     ListeIzgarasi liste;
-    liste.Genislikler(MalzemeListesi::Genislikler());
-    liste.Basliklar(MalzemeListesi::Basliklar());
-    liste.resize(1200, 600);
-    liste.show();
     QElapsedTimer t;
-    t.start();
-    const MalzemeListesi::Komut komut = MalzemeListesi::Liste(k);
-    liste.Doldur(veri.Ayniyat(), komut.sql, komut.degerler);
-    QCoreApplication::processEvents();
-    for (int r = 1; r <= ekranSatiri; ++r)
-        liste.TextMatrix(r, 1);
+    ilkEkran(liste, veri, k, t);
     const double ilk = t.nsecsElapsed() / 1e6;
     const int toplam = liste.Rows() - 1;
     const double sayim = t.nsecsElapsed() / 1e6 - ilk;

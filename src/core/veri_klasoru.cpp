@@ -60,8 +60,11 @@ void yarimKalaniBitir(const QString& klasor)
     if (!hazir.exists())
         return;
     for (const QString& ad : hazir.entryList(QDir::Files)) {
-        // An empty file in the way holds nothing; replaced in one step.
+        // An empty file in the way holds nothing and is replaced in one
+        // step; a file with content (put back by hand meanwhile) stays.
         const QString hedef = VeriKlasoru::DosyaYolu(klasor, ad);
+        if (dolu(hedef))
+            continue;
         std::error_code hata;
         std::filesystem::rename(hazir.filePath(ad).toStdU16String(), hedef.toStdU16String(), hata);
         if (hata)

@@ -6,7 +6,8 @@
 #include "tek_deger.h"
 #include "veritabani.h"
 
-#include <cmath>
+#include <QRegularExpression>
+
 
 QString FisEkrani::Hucre(int satir, int sutun) const
 {
@@ -46,9 +47,19 @@ QString bugunCalismaYilinda(const QString& yil)
     return bugunMetni().left(6) + yil;
 }
 
+// The voucher number as the key of its rows. Only a whole positive number
+// is one: "12a" would read as 12 and reach another voucher.
 qint64 fisNoSayisi(const QString& fisNo)
 {
-    return qint64(std::floor(Val(fisNo)));
+    static const QRegularExpression rakamlar(QStringLiteral("^[0-9]+$"));
+    const QString metin = fisNo.trimmed();
+    bool tamam = rakamlar.match(metin).hasMatch();
+    const qint64 no = tamam ? metin.toLongLong(&tamam) : 0;
+    if (!tamam || no <= 0)
+        throw Hata(QStringLiteral("\"%1\" bir fiş numarası değil. Fiş numarası yalnız rakamlardan oluşan, "
+                                  "sıfırdan büyük bir sayıdır; hiçbir şey yazılmadı.")
+                       .arg(metin));
+    return no;
 }
 
 const QString fisKosulu = QStringLiteral(" where FisNo = ? and Fcins = ? and Mid(Tarih,7,4) = ? ");
@@ -90,12 +101,12 @@ KayitSonucu FisKayit::Kaydet(Veritabani& vt, FisEkrani& fis, const std::function
 {
     if (fis.FisNo.trimmed().isEmpty() || Val(fis.FisNo) == 0)
         return KayitSonucu::FisNoYok;
+    const qint64 no = fisNoSayisi(fis.FisNo);
     if (fis.Hucre(1, 1).isEmpty())
         return KayitSonucu::IlkSatirBos;
     if (Saat::Bugun().month() != int(Val(fis.CalisAy)) && !aySorusu())
         return KayitSonucu::Vazgecildi;
 
-    const qint64 no = fisNoSayisi(fis.FisNo);
     const QString yil = fis.CalisYil;
     Islem islem(vt);
 
@@ -107,7 +118,7 @@ KayitSonucu FisKayit::Kaydet(Veritabani& vt, FisEkrani& fis, const std::function
         fis.HucreYaz(1, 7, QStringLiteral("01.01.") + yil);
     const QString belgeTarih =
         fis.Hucre(1, 6).isEmpty() ? bugunCalismaYilinda(yil) : kes(fis.Hucre(1, 7));
-    const QVariantList bas = {Val(fis.FisNo),         fis.Tarih,
+    const QVariantList bas = {no,                     fis.Tarih,
                               kes(fis.KabulSayi),     fis.KabulTarih,
                               kes(fis.TeslimAlan, 32), kes(fis.NeredenGeldigi, 25),
                               kes(fis.FCins),         kes(fis.Hucre(1, 3), 35),

@@ -241,6 +241,31 @@ private slots:
         QCOMPARE(soruldu, 1);
     }
 
+    // A number that is not a whole positive number reaches no voucher:
+    // "5a" is not voucher 5, for a save, a fetch or a delete.
+    void fisNoYalnizRakam_data()
+    {
+        QTest::addColumn<QString>("no");
+        QTest::newRow("harfli") << QStringLiteral("5a");
+        QTest::newRow("ondalık") << QStringLiteral("5.0");
+        QTest::newRow("eksi") << QStringLiteral("-5");
+        QTest::newRow("taşan") << QStringLiteral("99999999999999999999");
+    }
+
+    void fisNoYalnizRakam()
+    {
+        QFETCH(QString, no);
+        FisEkrani f = giris(QStringLiteral(" 5 "));
+        QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), f, evet), KayitSonucu::Kaydedildi);
+        FisEkrani kotu = giris(no);
+        kotu.Satirlar.resize(1);
+        QVERIFY_THROWS_EXCEPTION(Hata, FisKayit::Kaydet(veri().Ayniyat(), kotu, evet));
+        QVERIFY_THROWS_EXCEPTION(Hata, FisKayit::Getir(veri().Ayniyat(), kotu));
+        QVERIFY_THROWS_EXCEPTION(Hata, FisKayit::Sil(veri().Ayniyat(), kotu));
+        QCOMPARE(say(QStringLiteral("FIS_B")), 1);
+        QCOMPARE(say(QStringLiteral("FIS")), 2);
+    }
+
     void yarimKalanKayitEskiFisiBozmaz()
     {
         FisEkrani f = giris();

@@ -9,6 +9,7 @@ PAKETLER=(
   qt6-qpa-plugins libgl-dev
   libsqlite3-dev sqlite3
   strace
+  qt6-translations-l10n
   libzip-dev
   fonts-liberation2 fontconfig
   poppler-utils xvfb xauth

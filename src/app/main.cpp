@@ -7,6 +7,7 @@
 #include "menu.h"
 #include "oturum.h"
 #include "parola.h"
+#include "turkce.h"
 #include "veri_acilisi.h"
 #include "veri_klasoru.h"
 
@@ -57,10 +58,10 @@ int main(int argc, char* argv[])
     }
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tasinir"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Taşınır Mal Yönetimi"));
+    QtTurkcesiniYukle(app);
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Taşınır Mal Yönetimi"));
+    parser.setApplicationDescription(ProgramAdi);
     parser.addHelpOption();
     const QCommandLineOption veri(QStringLiteral("veri"), QStringLiteral("Veri klasörü."), QStringLiteral("klasör"));
     const QCommandLineOption satir(QStringLiteral("satir"),
@@ -101,7 +102,7 @@ int main(int argc, char* argv[])
     try {
         return pencereli(klasor);
     } catch (const Hata& h) {
-        QMessageBox::critical(nullptr, QGuiApplication::applicationDisplayName(), h.Mesaj());
+        QMessageBox::critical(nullptr, ProgramAdi, h.Mesaj());
     }
     return 1;
 }

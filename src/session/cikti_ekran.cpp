@@ -1,6 +1,7 @@
 #include "cikti_ekran.h"
 
-#include <QGuiApplication>
+#include "turkce.h"
+
 #include <QMessageBox>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
@@ -34,7 +35,7 @@ void OnizlemeCikti::Yaz(const Belge& belge)
                      [&](QPrinter* hedef) {
         // Only a real printer can fail here; no exception may cross the dialog.
         if (!BelgeCiz(*hedef, belge))
-            QMessageBox::critical(&pencere, QGuiApplication::applicationDisplayName(),
+            QMessageBox::critical(&pencere, ProgramAdi,
                                   YaziciHatasi().Mesaj());
     });
     pencere.exec();

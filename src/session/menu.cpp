@@ -2,6 +2,7 @@
 
 #include "hata.h"
 #include "oturum.h"
+#include "turkce.h"
 #include "veri.h"
 
 #include <QAction>
@@ -213,7 +214,7 @@ Menu::Menu(Veri& veri, QWidget* ebeveyn)
     CalisYil->setText(baglam.CalisYil);
     CalisAy->setText(baglam.CalisAy);
     Baslik->setText(baglam.Baslik);
-    setWindowTitle(baglam.Baslik + QStringLiteral(" - ") + QStringLiteral("Taşınır Mal Yönetimi"));
+    setWindowTitle(baglam.Baslik + QStringLiteral(" - ") + ProgramAdi);
 }
 
 Menu::~Menu()

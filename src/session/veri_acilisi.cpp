@@ -1,6 +1,7 @@
 #include "veri_acilisi.h"
 
 #include "kart_ekrani.h"
+#include "turkce.h"
 #include "veri_klasoru.h"
 
 #include <QDir>
@@ -21,7 +22,7 @@ QString adlar(const QList<Dosya>& dosyalar)
 
 AcilanVeri VeriAc(const QString& klasor)
 {
-    const QString baslik = QGuiApplication::applicationDisplayName();
+    const QString& baslik = ProgramAdi;
     AcilanVeri sonuc;
     // A file of an earlier version is converted while it opens: seconds on a
     // large one.

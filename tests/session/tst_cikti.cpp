@@ -1,4 +1,5 @@
 #include "cikti_ekran.h"
+#include "turkce.h"
 #include "sayfa_gorunumu.h"
 #include "yazici.h"
 
@@ -138,18 +139,24 @@ void TstCikti::yaziciCikti()
     QCOMPARE(SayfaBoylari(dosya), dikeyYatay);
 }
 
+// The preview speaks Turkish once Qt's own texts are loaded.
 void TstCikti::onizleme()
 {
+    QVERIFY(QtTurkcesiniYukle(*qApp));
     int gosterilen = -1;
-    QTimer::singleShot(0, this, [&gosterilen] {
+    QString baslik;
+    QTimer::singleShot(0, this, [&] {
         auto* pencere = qobject_cast<QPrintPreviewDialog*>(QApplication::activeModalWidget());
         if (!pencere)
             return;
         gosterilen = pencere->findChild<QPrintPreviewWidget*>()->pageCount();
+        baslik = pencere->windowTitle();
         pencere->reject();
     });
     OnizlemeCikti(nullptr).Yaz(OrnekBelge());
     QCOMPARE(gosterilen, 2);
+    QCOMPARE(baslik, QCoreApplication::translate("QPrintPreviewDialog", "Print Preview"));
+    QVERIFY2(baslik != QLatin1String("Print Preview"), qPrintable(baslik));
 }
 
 void TstCikti::gorunumBoyu_data()

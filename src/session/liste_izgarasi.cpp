@@ -224,13 +224,22 @@ void ListeIzgarasi::GenislikleriUygula()
     const double pikselBasina = logicalDpiX() / 1440.0;
     for (int i = 0; i < m_genislikler.size(); ++i) {
         setColumnHidden(i, m_genislikler[i] < 101);
-        setColumnWidth(i, int(m_genislikler[i] * pikselBasina));
+        int piksel = int(m_genislikler[i] * pikselBasina);
+        if (m_ornekler.contains(i))
+            piksel = qMax(piksel, fontMetrics().horizontalAdvance(m_ornekler[i]) + 3 * fontMetrics().averageCharWidth());
+        setColumnWidth(i, piksel);
     }
 }
 
 void ListeIzgarasi::Doldur(Veritabani& vt, const QString& sql, const QVariantList& degerler)
 {
     m_model->Doldur(vt.Yol(), sql, degerler);
+    GenislikleriUygula();
+}
+
+void ListeIzgarasi::EnAzGenislik(int sutun, const QString& ornek)
+{
+    m_ornekler.insert(sutun, ornek);
     GenislikleriUygula();
 }
 

@@ -2,6 +2,7 @@
 
 #include "izgara.h"
 
+#include <QMap>
 #include <QTableView>
 
 class ListeModeli;
@@ -32,6 +33,9 @@ public:
 
     void Basliklar(const QStringList& basliklar);
     void Genislikler(const QList<int>& twipler);
+    // The column is at least wide enough to show the sample whole (a date,
+    // where the width in twips falls short of it in the screen's font).
+    void EnAzGenislik(int sutun, const QString& ornek);
     // Replaces the rows with those of the query (values bound). The grid
     // reads on its own connection to vt's file, so vt may go at once; the
     // query holds its read until the background has read its last row or the
@@ -71,6 +75,7 @@ protected:
 private:
     ListeModeli* m_model;
     QList<int> m_genislikler;
+    QMap<int, QString> m_ornekler;
     void GenislikleriUygula();
 };
 

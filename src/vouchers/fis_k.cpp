@@ -1346,7 +1346,14 @@ void FIS_K::ListeAc()
 {
     if (!m_liste) {
         m_liste = new FIS_L(Baglam(), FCins, this);
-        connect(m_liste, &FIS_L::FisSecildi, this, [this](const QString& no) {
+        connect(m_liste, &FIS_L::FisSecildi, this, [this](const QString& no, const QString& tarih) {
+            // The screen fetches in its working year only.
+            if (!tarih.isEmpty() && tarih.mid(6, 4) != Baglam().CalisYil.trimmed()) {
+                Bildir(QStringLiteral("%1 nolu fiş %2 yılına ait; bu ekran %3 yılında çalışıyor. Fişi açmak için "
+                                      "menüden çalışılan yılı %2 yapıp fiş ekranını yeniden açınız.")
+                           .arg(no, tarih.mid(6, 4), Baglam().CalisYil));
+                return;
+            }
             FisNo->setText(no);
             // An empty number, from an empty list, brings nothing.
             if (!Getir() && !no.trimmed().isEmpty()) {

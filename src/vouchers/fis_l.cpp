@@ -27,6 +27,9 @@ FIS_L::FIS_L(const CalismaBaglami& baglam, const QString& fcins, QWidget* parent
     T = Adli(new ListeIzgarasi(this), "T");
     T->Basliklar(FisListesi::Basliklar());
     T->Genislikler(FisListesi::Genislikler());
+    // The dates whole, year included.
+    for (int sutun : {1, 4})
+        T->EnAzGenislik(sutun, QStringLiteral("31.12.2026"));
     orta->addWidget(T, 1);
 
     auto* yan = new QVBoxLayout;
@@ -135,7 +138,8 @@ void FIS_L::Guncelle()
 void FIS_L::Sec()
 {
     const int satir = T->Row();
-    emit FisSecildi(satir > 0 ? T->TextMatrix(satir, 0) : QString());
+    emit FisSecildi(satir > 0 ? T->TextMatrix(satir, 0) : QString(),
+                    satir > 0 ? T->TextMatrix(satir, 1) : QString());
     close();
 }
 

@@ -23,7 +23,7 @@ public:
     void Guncelle();
 
 signals:
-    void FisSecildi(const QString& fisNo);
+    void FisSecildi(const QString& fisNo, const QString& tarih);
 
 protected:
     bool eventFilter(QObject* nesne, QEvent* olay) override;

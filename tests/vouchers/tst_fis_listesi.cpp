@@ -1,4 +1,5 @@
 #include "gecici_veri.h"
+#include "modal_yanit.h"
 #include "cikti.h"
 #include "etkinlestir.h"
 #include "fis_izgara.h"
@@ -221,6 +222,14 @@ private slots:
         QTRY_VERIFY(!m_liste);
     }
 
+    // The dates show whole, year included.
+    void tarihSutunlari()
+    {
+        ac();
+        for (int sutun : {1, 4})
+            QVERIFY(izgara()->columnWidth(sutun) > izgara()->fontMetrics().horizontalAdvance(u"31.12.2026"_s));
+    }
+
     void yazdirma()
     {
         ac();
@@ -269,6 +278,21 @@ private slots:
         auto* satirlar = fis->findChild<FisIzgarasi*>(u"T"_s);
         QCOMPARE(satirlar->TextMatrix(1, 3), u"BEYAZ"_s);
         QVERIFY(!fis->findChild<QLineEdit*>(u"Text3"_s)->text().isEmpty());
+
+        // A voucher of another year is named, and the screen keeps its own.
+        f.FisNo = u"30"_s, f.Tarih = u"05.06.2025"_s, f.CalisYil = u"2025"_s;
+        QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), f, [] { return true; }), KayitSonucu::Kaydedildi);
+        liste->click();
+        m_liste = fis->findChild<FIS_L*>();
+        QTRY_VERIFY(m_liste->isVisible());
+        ModalYanit tamam(u"Tamam"_s);
+        for (int satir = 1; satir < izgara()->Rows(); ++satir)
+            if (izgara()->TextMatrix(satir, 0) == u"30"_s)
+                ciftTikla(izgara(), satir);
+        QTRY_VERIFY(tamam.Goruldu());
+        QVERIFY2(tamam.Metin().startsWith(u"30 nolu fiş 2025 yılına ait"_s), qPrintable(tamam.Metin()));
+        QCOMPARE(fis->findChild<QLineEdit*>(u"FisNo"_s)->text(), u"7"_s);
+        QCOMPARE(satirlar->TextMatrix(1, 3), u"BEYAZ"_s);
     }
 };
 

@@ -24,10 +24,8 @@ private slots:
     void paraYaz()
     {
         QFETCH(QVariant, deger);
-        QFETCH(QString, para);
-        QFETCH(QString, duz);
-        QCOMPARE(ParaYaz(deger), para);
-        QCOMPARE(DuzBicim(deger), duz);
+        QTEST(ParaYaz(deger), "para");
+        QTEST(DuzBicim(deger), "duz");
     }
 
     void sayiYaslama_data()
@@ -123,8 +121,7 @@ private slots:
     void val()
     {
         QFETCH(QString, metin);
-        QFETCH(double, beklenen);
-        QCOMPARE(Val(metin), beklenen);
+        QTEST(Val(metin), "beklenen");
     }
 
     void yaziylaTutar_data()
@@ -157,8 +154,7 @@ private slots:
     void yaziylaTutar()
     {
         QFETCH(double, tutar);
-        QFETCH(QString, beklenen);
-        QCOMPARE(YaziylaTutar(tutar), beklenen);
+        QTEST(YaziylaTutar(tutar), "beklenen");
     }
 
     void kurusYazi()

@@ -16,11 +16,8 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTemporaryDir>
 #include <QToolButton>
 #include <QtTest>
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -89,10 +86,7 @@ class TstHesapPlani : public QObject, protected GeciciVeri
     }
 
 private slots:
-    void init()
-    {
-        Yenile();
-    }
+    void init() { Yenile(); }
     void cleanup() { delete m_ekran; }
 
     void liste_data()

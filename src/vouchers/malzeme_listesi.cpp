@@ -5,6 +5,7 @@
 #include "kayit.h"
 #include "sql_islevleri.h"
 #include "veritabani.h"
+#include "yazici.h"
 
 namespace MalzemeListesi {
 
@@ -143,6 +144,7 @@ std::optional<int> YaziBoyu(const QString& metin)
 void Yazdir(Yazici& p, const Izgara& liste)
 {
     GridYazdir(p, QStringLiteral("Malzeme Listesi  "), liste);
+    p.EndDoc();
 }
 
 }

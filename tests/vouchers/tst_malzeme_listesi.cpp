@@ -1,3 +1,4 @@
+#include "cikti.h"
 #include "gecici_veri.h"
 #include "etkinlestir.h"
 #include "fis_izgara.h"
@@ -212,6 +213,15 @@ private slots:
         QCOMPARE(QApplication::focusWidget(), liste->T);
         QCOMPARE(liste->T->Row(), 1);
         QTRY_COMPARE(liste->T->TextMatrix(1, 0), u"Kalem"_s);
+        // F2 prints the list as it stands.
+        BellekCikti cikti;
+        liste->CiktiSec(&cikti);
+        QTest::keyClick(liste->T, Qt::Key_F2);
+        QCOMPARE(cikti.belgeler.size(), 1);
+        QStringList basilan;
+        for (const auto& yazi : cikti.belgeler[0].value(0).yazilar)
+            basilan << yazi.metin;
+        QVERIFY2(basilan.contains(u"Malzeme Listesi  "_s) && basilan.contains(u"Kalem"_s), qPrintable(basilan.join(u'|')));
         QTest::keyClick(liste->T, Qt::Key_Return);
 
         QTRY_VERIFY(!m_fis->findChild<Malzeme_L*>());

@@ -36,15 +36,21 @@ void uniteListesiYazdir(Veritabani& genel, Yazici& p)
     UniteTanim::UniteListesiYazdir(genel, kurum, p);
 }
 
+// The exit code of a page written whole but without its amount in words.
+constexpr int YaziylaYazilamadi = 3;
+
 // One page of a saved voucher: the voucher, its custody slip or its request
-// slip, as the voucher screen's print screens draw it.
+// slip, as the voucher screen's print screens draw it. An amount that cannot
+// be spelled is warned of and sets `harfYok`; the page prints without it.
 Sayfa fisSayfasi(Veri& veri, const QString& no, const QString& cins, const QString& yil,
-                 const QString& tur)
+                 const QString& tur, bool& harfYok)
 {
     QString harfHatasi;
     const FisYazimi yazim = FisToplam::KayittanYazim(veri, no, cins, yil, &harfHatasi);
-    if (!harfHatasi.isEmpty())
-        hataYaz(harfHatasi);
+    if (!harfHatasi.isEmpty()) {
+        hataYaz(QStringLiteral("Uyarı: %1 nolu fişin tutarı yazıyla yazılamadı: %2").arg(no, harfHatasi));
+        harfYok = true;
+    }
     const SabitSatiri sabit = SabitKayit::Getir(veri.Genel()).value_or(SabitSatiri());
     if (tur == QLatin1String("zimmet"))
         return ZimmetSayfasi(yazim, sabit);
@@ -108,15 +114,17 @@ int yazdir(Veri& veri, const QStringList& argumanlar, const Komutlar::Secenekler
                                "[--sayfa fis|zimmet|istek] --cikti DOSYA.pdf"));
         return 2;
     }
-    pdfYaz(fisSayfasi(veri, no, cins, yil, tur), QDir(dosya).absolutePath());
+    bool harfYok = false;
+    pdfYaz(fisSayfasi(veri, no, cins, yil, tur, harfYok), QDir(dosya).absolutePath());
     std::printf("Yazıldı: %s\n", qPrintable(QDir(dosya).absolutePath()));
-    return 0;
+    return harfYok ? YaziylaYazilamadi : 0;
 }
 
 // The sample's forms: the unit list, and the pages of an entry voucher of
 // this year that hands durable goods out, and of an issue voucher.
 int ornekFormlar(Veri& veri, const QString& ciktiSecenegi)
 {
+    bool harfYok = false;
     const QString cikti = ciktiSecenegi.isEmpty() ? QDir(veri.Klasor()).filePath(QStringLiteral("formlar"))
                                                   : QDir(ciktiSecenegi).absolutePath();
     if (!QDir().mkpath(cikti)) {
@@ -145,7 +153,7 @@ int ornekFormlar(Veri& veri, const QString& ciktiSecenegi)
         if (no.isEmpty())
             return;
         const QString dosya = QDir(cikti).filePath(QStringLiteral("%1_%2_%3_%4.pdf").arg(tur, cins, yil, no));
-        pdfYaz(fisSayfasi(veri, no, cins, yil, tur), dosya);
+        pdfYaz(fisSayfasi(veri, no, cins, yil, tur, harfYok), dosya);
         yazilanlar << dosya;
     };
     for (const char* tur : {"fis", "zimmet", "istek"})
@@ -155,7 +163,7 @@ int ornekFormlar(Veri& veri, const QString& ciktiSecenegi)
     std::printf("Formlar PDF olarak yazıldı: %s\n", qPrintable(cikti));
     for (const QString& dosya : yazilanlar)
         std::printf("  %s\n", qPrintable(dosya));
-    return 0;
+    return harfYok ? YaziylaYazilamadi : 0;
 }
 
 int kodPlani(Veri& veri, const QStringList& argumanlar)

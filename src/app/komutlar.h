@@ -14,7 +14,8 @@ struct Secenekler
 };
 
 // Runs the command word (the first of the arguments) on the data folder,
-// without a window. Answers the exit code: 0 done, 1 failed, 2 misused; the
+// without a window. Answers the exit code: 0 done, 1 failed, 2 misused, 3
+// a voucher page written whole but its amount could not be spelled; the
 // message goes to the standard error. A folder that lacks a data file, or
 // holds one that cannot be read, fails before anything is written.
 int Calistir(const QStringList& argumanlar, const QString& klasor, const Secenekler& secenek);

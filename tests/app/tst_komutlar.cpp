@@ -1,3 +1,5 @@
+#include "cikti.h"
+#include "fis_kayit.h"
 #include "komutlar.h"
 #include "ornek_veri.h"
 #include "veri.h"
@@ -82,6 +84,27 @@ private slots:
         QCOMPARE(cikti.entryList(QDir::Files), once);
         QVERIFY(eski.open(QIODevice::ReadOnly));
         QCOMPARE(eski.readAll(), "eski");
+    }
+
+    // A total of 1 to 9 kuruş cannot be spelled: the page is written all the
+    // same, the command warns and answers 3.
+    void yaziylaYazilamayanTutar()
+    {
+        QTemporaryDir tmp;
+        {
+            Veri veri(tmp.path());
+            FisEkrani f;
+            f.FisNo = u"1"_s, f.Tarih = u"10.03.2026"_s, f.FCins = f.Hangi = u"G"_s;
+            f.CalisYil = u"2026"_s, f.CalisAy = u"3"_s;
+            f.Satirlar = {{"", "150 01 01 001", "Kalem", "", "ADET", "1", "10.05", "05.03.2026", "", "1", "", "",
+                           "", "0", "", "", ""}};
+            QCOMPARE(FisKayit::Kaydet(veri.Ayniyat(), f, [] { return true; }), KayitSonucu::Kaydedildi);
+        }
+        Komutlar::Secenekler secenek;
+        secenek.no = u"1"_s, secenek.cins = u"G"_s, secenek.yil = u"2026"_s;
+        secenek.cikti = tmp.filePath(u"fis.pdf"_s);
+        QCOMPARE(Komutlar::Calistir({u"yazdir"_s, u"fis"_s}, tmp.path(), secenek), 3);
+        QVERIFY(PdfTamam(secenek.cikti));
     }
 };
 

@@ -541,11 +541,12 @@ QString tarihMetni(const QDate& gun)
     return gun.toString(QStringLiteral("dd.MM.yyyy"));
 }
 
+// A price as the voucher screen asks it typed: kuruş after a point.
 QString fiyatMetni(qint64 kurus)
 {
     if (kurus % 100 == 0)
         return QString::number(kurus / 100);
-    return QStringLiteral("%1,%2").arg(kurus / 100).arg(kurus % 100, 2, 10, QLatin1Char('0'));
+    return QStringLiteral("%1.%2").arg(kurus / 100).arg(kurus % 100, 2, 10, QLatin1Char('0'));
 }
 
 QString kisiAdi(int sira)
@@ -843,8 +844,11 @@ private:
             const int miktar = 1 + m_zar.Sayi(sinif.miktarUst);
             const bool yarim = sinif.bolunur && m_zar.Yuzde(10);
             satir.ozellik = ozellikSec(satir.sinif);
-            satir.miktar = yarim ? QStringLiteral("%1,5").arg(miktar) : QString::number(miktar);
-            satir.fiyat = fiyatMetni(satirFiyati(sinif.fiyat));
+            satir.miktar = yarim ? QStringLiteral("%1.5").arg(miktar) : QString::number(miktar);
+            // Half a unit of an even price: the line comes to whole kuruş,
+            // so the printed lines add up to the printed total.
+            const qint64 fiyat = satirFiyati(sinif.fiyat);
+            satir.fiyat = fiyatMetni(yarim ? fiyat - fiyat % 2 : fiyat);
             satir.islemTur = islemTur;
             if (m_zar.Yuzde(sinif.tuketim ? 5 : 50)) {
                 satir.cikan = satir.miktar;

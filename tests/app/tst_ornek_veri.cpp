@@ -1,3 +1,5 @@
+#include "fis_sayfasi.h"
+#include "fis_toplam.h"
 #include "komutlar.h"
 #include "ornek_veri.h"
 #include "saat.h"
@@ -77,6 +79,7 @@ private slots:
     void doluKlasorReddedilir_data();
     void doluKlasorReddedilir();
     void eksikDosyadaKomutYazmaz();
+    void basilanTutarlarToplamiTutar();
 };
 
 void TstOrnekVeri::ayniGirdiAyniSatirlar()
@@ -112,10 +115,9 @@ void TstOrnekVeri::satirSayisi()
         Veri v(dizin.path());
         OrnekVeriYaz(v, satir);
     }
-    Veri verigenel(dizin.path());
-    Veritabani& genel = verigenel.Baglanti(Dosya::Genel);
-    Veri veriayniyat(dizin.path());
-    Veritabani& ayniyat = veriayniyat.Baglanti(Dosya::Ayniyat);
+    Veri veri(dizin.path());
+    Veritabani& genel = veri.Genel();
+    Veritabani& ayniyat = veri.Ayniyat();
     QCOMPARE(sayi(ayniyat, QStringLiteral("select count(*) from FIS")), satir);
     const int fisler = sayi(ayniyat, QStringLiteral("select count(*) from FIS_B"));
     QVERIFY(fisler >= (satir + 24) / 25 && fisler <= satir);
@@ -146,8 +148,8 @@ void TstOrnekVeri::tarihlerVeNumaralar()
         Veri v(dizin.path());
         OrnekVeriYaz(v, 3000);
     }
-    Veri verivt(dizin.path());
-    Veritabani& vt = verivt.Baglanti(Dosya::Ayniyat);
+    Veri veri(dizin.path());
+    Veritabani& vt = veri.Baglanti(Dosya::Ayniyat);
 
     const QSet<QString> yillar = kume(vt, QStringLiteral("select distinct Mid(Tarih,7,4) from FIS"));
     QSet<QString> beklenen;
@@ -187,8 +189,8 @@ void TstOrnekVeri::stokHicEksiyeDusmez()
         Veri v(dizin.path());
         OrnekVeriYaz(v, 20000);
     }
-    Veri verivt(dizin.path());
-    Veritabani& vt = verivt.Baglanti(Dosya::Ayniyat);
+    Veri veri(dizin.path());
+    Veritabani& vt = veri.Baglanti(Dosya::Ayniyat);
     QVERIFY(sayi(vt, QStringLiteral("select count(*) from FIS where FCins = 'C'")) > 1000);
 
     QSqlQuery sorgu = vt.Sorgu(QStringLiteral("select TarihSayi(Tarih), HesapKod, val(Miktar) - val(Cikan)"
@@ -225,10 +227,9 @@ void TstOrnekVeri::kodlarTanimli()
         Veri v(dizin.path());
         OrnekVeriYaz(v, 3000);
     }
-    Veri verigenel(dizin.path());
-    Veritabani& genel = verigenel.Baglanti(Dosya::Genel);
-    Veri veriayniyat(dizin.path());
-    Veritabani& ayniyat = veriayniyat.Baglanti(Dosya::Ayniyat);
+    Veri veri(dizin.path());
+    Veritabani& genel = veri.Genel();
+    Veritabani& ayniyat = veri.Ayniyat();
 
     const QSet<QString> siniflar = kume(genel, QStringLiteral("select HesapKod || '|' || Birimi || '|' || KDV1"
                                                               " from URUN_K"));
@@ -285,9 +286,9 @@ void TstOrnekVeri::fisKurallari_data()
     satir("verilen mal kime verildiği ile",
           "select count(*) from FIS where (Cikan = '') <> (Unite = '') or (Unite = '') <> (KimeVerildigi = '')");
     satir("sayılar ondalık virgülle",
-          "select count(*) from FIS where BirimFiyat glob '*[^0-9,]*' or BirimFiyat = ''"
-          " or (BirimFiyat glob '*,*' and BirimFiyat not glob '*,[0-9][0-9]')"
-          " or Miktar glob '*[^0-9,]*' or Cikan glob '*[^0-9,]*' or val(BirimFiyat) <= 0");
+          "select count(*) from FIS where BirimFiyat glob '*[^0-9.]*' or BirimFiyat = ''"
+          " or (BirimFiyat glob '*.*' and BirimFiyat not glob '*.[0-9][0-9]')"
+          " or Miktar glob '*[^0-9.]*' or Cikan glob '*[^0-9.]*' or val(BirimFiyat) <= 0");
     satir("belge türü listeden",
           "select count(*) from FIS_B where BelgeTur not in ('Fatura', 'Karar', 'Makbuz', 'Onay', 'Protokol',"
           " 'Sözleşme', 'Tutanak', 'İstekBelgesi', 'Diğer')");
@@ -324,8 +325,8 @@ void TstOrnekVeri::fisKurallari()
         Veri v(dizin.path());
         OrnekVeriYaz(v, 3000);
     }
-    Veri verivt(dizin.path());
-    Veritabani& vt = verivt.Baglanti(Dosya::Ayniyat);
+    Veri veri(dizin.path());
+    Veritabani& vt = veri.Baglanti(Dosya::Ayniyat);
     QCOMPARE(sayi(vt, ihlal), 0);
 }
 
@@ -336,8 +337,8 @@ void TstOrnekVeri::sabitlerYazilir()
         Veri v(dizin.path());
         OrnekVeriYaz(v, 10);
     }
-    Veri verivt(dizin.path());
-    Veritabani& vt = verivt.Baglanti(Dosya::Genel);
+    Veri veri(dizin.path());
+    Veritabani& vt = veri.Baglanti(Dosya::Genel);
     QCOMPARE(satirlar(vt, QStringLiteral("select Anahtar, CalisYil, CalisAy, KDV1, DamgaOran1, AyniyatMemuru2"
                                          " from Sabit")),
              QStringList{QStringLiteral("1|2025|6|20|0,948|Mehmet Kaya")});
@@ -411,5 +412,33 @@ void TstOrnekVeri::eksikDosyadaKomutYazmaz()
     QCOMPARE(QDir(dizin.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), once);
 }
 
-QTEST_GUILESS_MAIN(TstOrnekVeri)
+// Prices carry their kuruş after a point, as the voucher screen asks: on
+// every printed voucher of the sample the line amounts add up to the total.
+void TstOrnekVeri::basilanTutarlarToplamiTutar()
+{
+    QTemporaryDir dizin;
+    Veri veri(dizin.path());
+    OrnekVeriYaz(veri, 600);
+    const auto sayi = [](QString metin) { return metin.trimmed().remove(u'.').replace(u',', u'.').toDouble(); };
+    int fisSayisi = 0;
+    for (const QStringList& fis :
+         veri.Ayniyat().Satirlar(QStringLiteral("select FisNo, FCins, Mid(Tarih,7,4) from FIS_B"))) {
+        const FisYazimi yazim = FisToplam::KayittanYazim(veri, fis[0], fis[1], fis[2]);
+        const Sayfa sayfa = FisSayfasi(yazim, {});
+        double satirlar = 0;
+        QString toplam;
+        for (const SayfaYazisi& y : sayfa.yazilar) {
+            if (y.x == 9250)
+                satirlar += sayi(y.metin);
+            else if (y.metin.startsWith(QStringLiteral("    Toplam : ")))
+                toplam = y.metin.mid(13);
+        }
+        QVERIFY2(qAbs(satirlar - sayi(toplam)) < 0.005,
+                 qPrintable(QStringLiteral("%1 %2: satırlar %3, Toplam %4").arg(fis[1], fis[0]).arg(satirlar).arg(toplam)));
+        ++fisSayisi;
+    }
+    QVERIFY(fisSayisi > 20);
+}
+
+QTEST_MAIN(TstOrnekVeri)
 #include "tst_ornek_veri.moc"

@@ -10,6 +10,8 @@
 
 #include <sqlite3.h>
 
+#include <optional>
+
 namespace {
 
 // Reads code points from UTF-8 bytes.
@@ -137,6 +139,20 @@ Utf8Okuyucu metinDegeri(sqlite3_value* v)
     return {p, p + sqlite3_value_bytes(v)};
 }
 
+// The text of a Trim or a date, its leading blanks passed over; a NULL
+// gives NULL as the result and nothing to read.
+std::optional<Utf8Okuyucu> bosluksuzMetin(sqlite3_context* ctx, sqlite3_value* v)
+{
+    if (sqlite3_value_type(v) == SQLITE_NULL) {
+        sqlite3_result_null(ctx);
+        return std::nullopt;
+    }
+    Utf8Okuyucu s = metinDegeri(v);
+    while (s.p < s.son && *s.p == ' ')
+        ++s.p;
+    return s;
+}
+
 void mid(sqlite3_context* ctx, int argc, sqlite3_value** argv)
 {
     if (sqlite3_value_type(argv[0]) == SQLITE_NULL) {
@@ -208,13 +224,10 @@ void len(sqlite3_context* ctx, int, sqlite3_value** argv)
 // The Basic Trim takes blanks only, not tabs.
 void trim(sqlite3_context* ctx, int, sqlite3_value** argv)
 {
-    if (sqlite3_value_type(argv[0]) == SQLITE_NULL) {
-        sqlite3_result_null(ctx);
+    std::optional<Utf8Okuyucu> metin = bosluksuzMetin(ctx, argv[0]);
+    if (!metin)
         return;
-    }
-    Utf8Okuyucu s = metinDegeri(argv[0]);
-    while (s.p < s.son && *s.p == ' ')
-        ++s.p;
+    Utf8Okuyucu& s = *metin;
     while (s.son > s.p && s.son[-1] == ' ')
         --s.son;
     sqlite3_result_text(ctx, reinterpret_cast<const char*>(s.p), int(s.son - s.p), SQLITE_TRANSIENT);
@@ -258,13 +271,10 @@ int iki(const unsigned char*& p, const unsigned char* son, int enCok)
 // that is no date, so that such a row falls out of a date frame.
 void tarihSayi(sqlite3_context* ctx, int, sqlite3_value** argv)
 {
-    if (sqlite3_value_type(argv[0]) == SQLITE_NULL) {
-        sqlite3_result_null(ctx);
+    std::optional<Utf8Okuyucu> metin = bosluksuzMetin(ctx, argv[0]);
+    if (!metin)
         return;
-    }
-    Utf8Okuyucu s = metinDegeri(argv[0]);
-    while (s.p < s.son && *s.p == ' ')
-        ++s.p;
+    Utf8Okuyucu& s = *metin;
     const int gun = iki(s.p, s.son, 2);
     const bool nokta1 = s.p < s.son && (*s.p == '.' || *s.p == '/');
     if (nokta1)

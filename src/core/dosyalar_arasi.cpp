@@ -37,6 +37,34 @@ QList<DosyalarArasi::Komut> oku(const QByteArray& veri)
     return komutlar;
 }
 
+
+// Runs the statements of the record, each file's in one transaction, and
+// removes the record.
+void uygula(Veri& veri, qint64 no)
+{
+    QList<DosyalarArasi::Komut> komutlar;
+    {
+        QSqlQuery q = veri.Genel().Sorgu(QStringLiteral("select Komutlar from BEKLEYEN where No = ?"), {no});
+        if (!q.next())
+            return;
+        komutlar = oku(q.value(0).toByteArray());
+    }
+    for (Dosya d : VeriDosyalari) {
+        bool var = false;
+        for (const DosyalarArasi::Komut& k : komutlar)
+            var = var || k.dosya == d;
+        if (!var)
+            continue;
+        Veritabani& vt = veri.Baglanti(d);
+        Islem islem(vt);
+        for (const DosyalarArasi::Komut& k : komutlar)
+            if (k.dosya == d)
+                vt.Hazir(k.sql).Calistir(k.degerler);
+        islem.Onayla();
+    }
+    DosyalarArasi::Sil(veri.Genel(), no);
+}
+
 }
 
 qint64 DosyalarArasi::Kaydet(Veritabani& genel, const QString& aciklama, const QList<Komut>& komutlar)
@@ -47,31 +75,6 @@ qint64 DosyalarArasi::Kaydet(Veritabani& genel, const QString& aciklama, const Q
     const qint64 no = genel.Satirlar(QStringLiteral("select last_insert_rowid()")).value(0).value(0).toLongLong();
     islem.Onayla();
     return no;
-}
-
-void DosyalarArasi::Uygula(Veri& veri, qint64 no)
-{
-    QList<Komut> komutlar;
-    {
-        QSqlQuery q = veri.Genel().Sorgu(QStringLiteral("select Komutlar from BEKLEYEN where No = ?"), {no});
-        if (!q.next())
-            return;
-        komutlar = oku(q.value(0).toByteArray());
-    }
-    for (Dosya d : VeriDosyalari) {
-        bool var = false;
-        for (const Komut& k : komutlar)
-            var = var || k.dosya == d;
-        if (!var)
-            continue;
-        Veritabani& vt = veri.Baglanti(d);
-        Islem islem(vt);
-        for (const Komut& k : komutlar)
-            if (k.dosya == d)
-                vt.Hazir(k.sql).Calistir(k.degerler);
-        islem.Onayla();
-    }
-    Sil(veri.Genel(), no);
 }
 
 void DosyalarArasi::Sil(Veritabani& genel, qint64 no)
@@ -85,7 +88,7 @@ void DosyalarArasi::Yaz(Veri& veri, qint64 no, const std::function<void()>& yaz)
         yaz();
     } catch (...) {
         try {
-            Uygula(veri, no);
+            uygula(veri, no);
         } catch (const VeriHatasi&) {
             // The record stays; the next opening runs it.
         }
@@ -98,7 +101,7 @@ QStringList DosyalarArasi::Tamamla(Veri& veri)
     QStringList sonuc;
     for (const QStringList& kayit :
          veri.Genel().Satirlar(QStringLiteral("select No, Aciklama from BEKLEYEN order by No"))) {
-        Uygula(veri, kayit.at(0).toLongLong());
+        uygula(veri, kayit.at(0).toLongLong());
         sonuc << QStringLiteral("Yarım kalan işlem geri alındı: %1").arg(kayit.at(1));
     }
     return sonuc;

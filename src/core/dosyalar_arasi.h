@@ -36,10 +36,6 @@ struct Komut
 // to the user. Answers the record's number.
 qint64 Kaydet(Veritabani& genel, const QString& aciklama, const QList<Komut>& komutlar);
 
-// Runs the statements of the record, each file's in one transaction, and
-// removes the record.
-void Uygula(Veri& veri, qint64 no);
-
 // Removes the record: to be called in the transaction of GENEL.MDB's part.
 void Sil(Veritabani& genel, qint64 no);
 

@@ -15,6 +15,13 @@
 
 namespace {
 
+// A database file that is not open, with its side files.
+void sil(const QString& yol)
+{
+    for (const char* ek : {"", "-wal", "-shm", "-journal"})
+        QFile::remove(yol + QLatin1String(ek));
+}
+
 // The copy opens with the plain engine, none of our functions, and passes
 // quick_check.
 QString denetimHatasi(const QString& yol)
@@ -54,12 +61,12 @@ QString Oturum::AylikKopya(const QString& klasor)
     const QString kaynak = VeriKlasoru::DosyaYolu(klasor, DosyaAdi(Dosya::Ayniyat));
     const QString hedef = VeriKlasoru::DosyaYolu(klasor, VeriKlasoru::AylikKopyaAdi(Saat::Bugun().month()));
     const QString gecici = hedef + QStringLiteral(".yeni");
-    VeriKlasoru::Sil(gecici);
+    sil(gecici);
     try {
         Veritabani vt(kaynak);
         vt.Calistir(QStringLiteral("VACUUM INTO ?"), {gecici});
     } catch (const VeriHatasi& h) {
-        VeriKlasoru::Sil(gecici);
+        sil(gecici);
         throw VeriHatasi(QStringLiteral("Aylık güvenlik kopyası yazılamadı; önceki kopya duruyor.\n") + h.Mesaj());
     }
     const QString hata = denetimHatasi(gecici);
@@ -67,7 +74,7 @@ QString Oturum::AylikKopya(const QString& klasor)
     if (hata.isEmpty())
         std::filesystem::rename(gecici.toStdU16String(), hedef.toStdU16String(), tasima);
     if (!hata.isEmpty() || tasima) {
-        VeriKlasoru::Sil(gecici);
+        sil(gecici);
         throw VeriHatasi(QStringLiteral("Aylık güvenlik kopyası yazılamadı; önceki kopya duruyor.\n%1")
                              .arg(hata.isEmpty() ? QString::fromLocal8Bit(tasima.message()) : hata));
     }

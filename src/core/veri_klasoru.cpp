@@ -109,12 +109,6 @@ QString VeriKlasoru::DosyaYolu(const QString& klasor, const QString& ad)
     return dizin.filePath(ad);
 }
 
-void VeriKlasoru::Sil(const QString& yol)
-{
-    for (const char* ek : {"", "-wal", "-shm", "-journal"})
-        QFile::remove(yol + QLatin1String(ek));
-}
-
 QString VeriKlasoru::AylikKopyaAdi(int ay)
 {
     return QStringLiteral("AYNIYAT%1.MDB").arg(ay, 2, 10, QLatin1Char('0'));

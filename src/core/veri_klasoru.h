@@ -42,10 +42,6 @@ void Olustur(const QString& klasor, const QList<Dosya>& dosyalar);
 // to case; the name as given when no such file exists yet.
 QString DosyaYolu(const QString& klasor, const QString& ad);
 
-// Removes a database file that is not open, with its -wal, -shm and
-// -journal files.
-void Sil(const QString& yol);
-
 // This month's safety copy of AYNIYAT.MDB: "AYNIYAT" + the month in two
 // digits + ".MDB".
 QString AylikKopyaAdi(int ay);

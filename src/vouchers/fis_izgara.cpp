@@ -6,7 +6,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
-FisIzgarasi::FisIzgarasi(QWidget* ebeveyn) : QTableView(ebeveyn), m_model(FisSatir::SatirSayisi, FisEkrani::SutunSayisi)
+FisIzgarasi::FisIzgarasi(QWidget* ebeveyn) : QTableView(ebeveyn), m_model(FisSatir::SatirSayisi, FisSutun::Sayi)
 {
     setModel(&m_model);
     setEditTriggers(QAbstractItemView::NoEditTriggers);

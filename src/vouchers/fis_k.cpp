@@ -308,15 +308,15 @@ FIS_K::FIS_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
     // it stands: no code has to exist.
     connect(HesKod->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& m) { HucreYaz(1, m); });
     connect(UniteAd->lineEdit(), &QLineEdit::textEdited, this,
-            [this](const QString& m) { HucreYaz(FisSatir::UniteSutunu, m); });
+            [this](const QString& m) { HucreYaz(FisSutun::Unite, m); });
     connect(IslemTur->lineEdit(), &QLineEdit::textEdited, this,
-            [this](const QString& m) { HucreYaz(FisSatir::IslemSutunu, m); });
-    connect(TDate, &QDateEdit::dateChanged, this, [this] { HucreYaz(FisSatir::TarihSutunu, TDate->Metin()); });
+            [this](const QString& m) { HucreYaz(FisSutun::IslemTur, m); });
+    connect(TDate, &QDateEdit::dateChanged, this, [this] { HucreYaz(FisSutun::BelgeTarih, TDate->Metin()); });
     connect(HesKod, &QComboBox::activated, this, &FIS_K::HesKodSecildi);
     connect(Detay3, &QComboBox::activated, this, &FIS_K::Detay3Secildi);
     connect(UniteAd, &QComboBox::activated, this, &FIS_K::UniteAdSecildi);
     connect(IslemTur, &QComboBox::activated, this,
-            [this](int sira) { HucreYaz(FisSatir::IslemSutunu, QString::number(sira + 1)); });
+            [this](int sira) { HucreYaz(FisSutun::IslemTur, QString::number(sira + 1)); });
 
     connect(BTYukari, &QToolButton::clicked, this, [this] { Adim(1, true); });
     connect(BTAsagi, &QToolButton::clicked, this, [this] { Adim(-1, true); });
@@ -704,7 +704,7 @@ void FIS_K::GridHazirla()
 {
     const QStringList basliklar = FisSatir::Basliklar();
     const QList<int> genislikler = FisSatir::Genislikler();
-    for (int c = 0; c < FisEkrani::SutunSayisi; ++c) {
+    for (int c = 0; c < FisSutun::Sayi; ++c) {
         T->Baslik(c, basliklar.at(c));
         T->Genislik(c, genislikler.at(c));
     }
@@ -755,8 +755,8 @@ void FIS_K::HucreDegisti(int satir, int sutun)
         HucreYaz(4, QStringLiteral("ADET"));
     if (sutun == 5 || sutun == 6)
         AraToplam();
-    const QString uniteKod = Hucre(FisSatir::UniteSutunu);
-    if (sutun >= FisSatir::TarihSutunu && sutun <= FisSatir::IslemSutunu && Val(uniteKod) != 0)
+    const QString uniteKod = Hucre(FisSutun::Unite);
+    if (sutun >= FisSutun::BelgeTarih && sutun <= FisSutun::IslemTur && Val(uniteKod) != 0)
         Dene([&] {
             UniteAd2 = AlanGetir(Genel(), QStringLiteral("Unite_K"), QStringLiteral("UniteAd"),
                                  QStringLiteral(" where UniteKod = ? "), {uniteKod});
@@ -776,13 +776,13 @@ void FIS_K::Yaz2()
     case 2:
         Detay3->setEditText(metin);
         break;
-    case FisSatir::TarihSutunu:
+    case FisSutun::BelgeTarih:
         TDate->MetinYaz(metin);
         break;
-    case FisSatir::UniteSutunu:
+    case FisSutun::Unite:
         UniteAd->setEditText(metin);
         break;
-    case FisSatir::IslemSutunu:
+    case FisSutun::IslemTur:
         IslemTur->setEditText(metin);
         break;
     }
@@ -796,11 +796,11 @@ QWidget* FIS_K::SutunEditoru(int sutun) const
         return HesKod;
     case 2:
         return Detay3;
-    case FisSatir::TarihSutunu:
+    case FisSutun::BelgeTarih:
         return TDate;
-    case FisSatir::UniteSutunu:
+    case FisSutun::Unite:
         return UniteAd;
-    case FisSatir::IslemSutunu:
+    case FisSutun::IslemTur:
         return IslemTur;
     default:
         return TE1;
@@ -1013,21 +1013,21 @@ bool FIS_K::IzgaraTusu(QKeyEvent* olay)
     switch (sutun) {
     case 1:
     case 2:
-    case FisSatir::UniteSutunu:
-    case FisSatir::IslemSutunu: {
+    case FisSutun::Unite:
+    case FisSutun::IslemTur: {
         auto* kutu = static_cast<QComboBox*>(SutunEditoru(sutun));
         kutu->setFocus();
         MetinSec(kutu);
         TusuGonder(kutu->lineEdit(), olay);
         return true;
     }
-    case FisSatir::TarihSutunu:
+    case FisSutun::BelgeTarih:
         if (olay->key() == Qt::Key_Space && !TDate->Bos()) {
             TDate->MetinYaz(QString());
-            HucreYaz(FisSatir::TarihSutunu, QString());
+            HucreYaz(FisSutun::BelgeTarih, QString());
         } else {
             TDate->GunYaz(Saat::Bugun());
-            HucreYaz(FisSatir::TarihSutunu, TDate->Metin());
+            HucreYaz(FisSutun::BelgeTarih, TDate->Metin());
             TDate->setFocus();
         }
         return true;
@@ -1051,20 +1051,20 @@ void FIS_K::IzgaraEnter()
         EditorOdak(2);
         return;
     case 2:
-    case FisSatir::UniteSutunu:
-    case FisSatir::IslemSutunu:
+    case FisSutun::Unite:
+    case FisSutun::IslemTur:
         EditorOdak(sutun);
         return;
-    case FisSatir::TarihSutunu:
+    case FisSutun::BelgeTarih:
         // Enter is a key like any other here: the date becomes today's.
         TDate->GunYaz(Saat::Bugun());
-        HucreYaz(FisSatir::TarihSutunu, TDate->Metin());
+        HucreYaz(FisSutun::BelgeTarih, TDate->Metin());
         TDate->setFocus();
         return;
     default: {
         const FisSatir::EnterSonucu sonuc = FisSatir::GridEnter({satir, sutun}, Hucre(6));
         if (!sonuc.tarih.isNull())
-            HucreYaz(FisSatir::TarihSutunu, sonuc.tarih);
+            HucreYaz(FisSutun::BelgeTarih, sonuc.tarih);
         if (SatirGit(sonuc.hucre.satir, sonuc.hucre.sutun))
             EditorOdak(sonuc.hucre.sutun);
     }
@@ -1176,7 +1176,7 @@ void FIS_K::UniteAdSecildi(int sira)
     std::optional<QString> kod;
     if (!Dene([&] { kod = FisSatir::UniteKodu(Genel(), ad); }) || !kod)
         return;
-    HucreYaz(FisSatir::UniteSutunu, *kod);
+    HucreYaz(FisSutun::Unite, *kod);
     while (m_uniteAdlari.size() < T->Row())
         m_uniteAdlari << QString();
     m_uniteAdlari[T->Row() - 1] = ad;

@@ -21,7 +21,7 @@ void FisEkrani::HucreYaz(int satir, int sutun, const QString& metin)
     while (Satirlar.size() < satir)
         Satirlar.append(QStringList());
     QStringList& hucreler = Satirlar[satir - 1];
-    while (hucreler.size() < SutunSayisi)
+    while (hucreler.size() < FisSutun::Sayi)
         hucreler.append(QString());
     hucreler[sutun] = metin;
 }
@@ -102,7 +102,7 @@ KayitSonucu FisKayit::Kaydet(Veritabani& vt, FisEkrani& fis, const std::function
     if (fis.FisNo.trimmed().isEmpty() || Val(fis.FisNo) == 0)
         return KayitSonucu::FisNoYok;
     const qint64 no = fisNoSayisi(fis.FisNo);
-    if (fis.Hucre(1, 1).isEmpty())
+    if (fis.Hucre(1, FisSutun::HesapKod).isEmpty())
         return KayitSonucu::IlkSatirBos;
     if (Saat::Bugun().month() != int(Val(fis.CalisAy)) && !aySorusu())
         return KayitSonucu::Vazgecildi;
@@ -114,14 +114,14 @@ KayitSonucu FisKayit::Kaydet(Veritabani& vt, FisEkrani& fis, const std::function
     // line; the two date fallbacks differ on purpose.
     if (fis.KabulTarih.isEmpty())
         fis.KabulTarih = bugunCalismaYilinda(yil);
-    if (fis.Hucre(1, 7).isEmpty())
-        fis.HucreYaz(1, 7, QStringLiteral("01.01.") + yil);
+    if (fis.Hucre(1, FisSutun::BelgeTarih).isEmpty())
+        fis.HucreYaz(1, FisSutun::BelgeTarih, QStringLiteral("01.01.") + yil);
     const QString belgeTarih =
-        fis.Hucre(1, 6).isEmpty() ? bugunCalismaYilinda(yil) : kes(fis.Hucre(1, 7));
+        fis.Hucre(1, FisSutun::BirimFiyat).isEmpty() ? bugunCalismaYilinda(yil) : kes(fis.Hucre(1, FisSutun::BelgeTarih));
     const QVariantList bas = {no,                     fis.Tarih,
                               kes(fis.KabulSayi),     fis.KabulTarih,
                               kes(fis.TeslimAlan, 32), kes(fis.NeredenGeldigi, 25),
-                              kes(fis.FCins),         kes(fis.Hucre(1, 3), 35),
+                              kes(fis.FCins),         kes(fis.Hucre(1, FisSutun::Ozellik), 35),
                               belgeTarih,             kes(fis.BelgeSayi, 12),
                               kes(fis.BelgeTur, 10)};
     QSqlQuery var = vt.Sorgu(QStringLiteral("select rowid from FIS_B") + fisKosulu, {no, fis.FCins, yil});
@@ -146,31 +146,31 @@ KayitSonucu FisKayit::Kaydet(Veritabani& vt, FisEkrani& fis, const std::function
         "KabulTarih, KabulSayi, FCinss) values (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, '')"));
     const QString tarihYili = fis.Tarih.mid(6, 4);
     for (int i = 1; i <= fis.Satirlar.size(); ++i) {
-        if (fis.Hucre(i, 1).isEmpty())
+        if (fis.Hucre(i, FisSutun::HesapKod).isEmpty())
             continue;
-        if (fis.Hucre(i, 7).trimmed().isEmpty())
-            fis.HucreYaz(i, 7, bugunMetni());
-        const QString hesapKod = kes(fis.Hucre(i, 1), 20);
+        if (fis.Hucre(i, FisSutun::BelgeTarih).trimmed().isEmpty())
+            fis.HucreYaz(i, FisSutun::BelgeTarih, bugunMetni());
+        const QString hesapKod = kes(fis.Hucre(i, FisSutun::HesapKod), 20);
         const QVariantList degerler = {
             i,
             fis.Tarih,
             no,
             hesapKod,
-            kes(fis.Hucre(i, 3), 30),
-            kes(fis.Hucre(i, 4), 7),
-            fis.Hangi == QLatin1String("C") ? QString() : kes(fis.Hucre(i, 5), 14),
+            kes(fis.Hucre(i, FisSutun::Ozellik), 30),
+            kes(fis.Hucre(i, FisSutun::Birimi), 7),
+            fis.Hangi == QLatin1String("C") ? QString() : kes(fis.Hucre(i, FisSutun::Miktar), 14),
             kes(fis.FCins),
-            kes(fis.Hucre(i, 6), 20),
-            kes(fis.Hucre(i, 7)),
+            kes(fis.Hucre(i, FisSutun::BirimFiyat), 20),
+            kes(fis.Hucre(i, FisSutun::BelgeTarih)),
             kes(fis.BelgeSayi),
-            kes(fis.Hucre(i, 8), 4),
-            Val(fis.Hucre(i, 9)),
+            kes(fis.Hucre(i, FisSutun::Unite), 4),
+            Val(fis.Hucre(i, FisSutun::IslemTur)),
             SicilNo(hesapKod, tarihYili, fis.FisNo),
-            Val(fis.Hucre(i, 13)),
-            kes(fis.Hucre(i, 10), 14),
-            kes(fis.Hucre(i, 11), 30),
-            Val(fis.Hucre(i, 12).left(7)),
-            kes(fis.Hucre(i, 14), 7),
+            Val(fis.Hucre(i, FisSutun::KDV)),
+            kes(fis.Hucre(i, FisSutun::Cikan), 14),
+            kes(fis.Hucre(i, FisSutun::KimeVerildigi), 30),
+            Val(fis.Hucre(i, FisSutun::AmbarNo).left(7)),
+            kes(fis.Hucre(i, FisSutun::OzelKod), 7),
             fis.KabulTarih,
             kes(fis.KabulSayi),
         };
@@ -212,7 +212,7 @@ FisSatirlari FisKayit::SatirlariGetir(Veritabani& ayniyat, Veritabani& genel, co
         {fisNoSayisi(fisNo), yil, fcins});
     while (q.next()) {
         QStringList satir;
-        for (int i = 0; i < 15; ++i)
+        for (int i = FisSutun::Sira; i <= FisSutun::OzelKod; ++i)
             satir << q.value(i).toString();
         satir << QString() << QString();
         sonuc.hucreler << satir;
@@ -220,13 +220,15 @@ FisSatirlari FisKayit::SatirlariGetir(Veritabani& ayniyat, Veritabani& genel, co
     if (sonuc.hucreler.isEmpty())
         return sonuc;
     for (QStringList& satir : sonuc.hucreler) {
-        if (!satir.at(1).isEmpty())
-            satir[2] = AlanGetir(genel, QStringLiteral("Urun_K"), QStringLiteral("MalzAdi"),
-                                 QStringLiteral(" where HesapKod = ? "), {satir.at(1)});
-        sonuc.islemAdlari << (satir.at(1).isEmpty() ? QString() : IslemAdi(int(Val(satir.at(9)))));
-        sonuc.uniteAdlari << (Val(satir.at(8)) != 0
+        const QString& kod = satir.at(FisSutun::HesapKod);
+        const QString& unite = satir.at(FisSutun::Unite);
+        if (!kod.isEmpty())
+            satir[FisSutun::MalzAdi] = AlanGetir(genel, QStringLiteral("Urun_K"), QStringLiteral("MalzAdi"),
+                                                 QStringLiteral(" where HesapKod = ? "), {kod});
+        sonuc.islemAdlari << (kod.isEmpty() ? QString() : IslemAdi(int(Val(satir.at(FisSutun::IslemTur)))));
+        sonuc.uniteAdlari << (Val(unite) != 0
                                   ? AlanGetir(genel, QStringLiteral("Unite_K"), QStringLiteral("UniteAd"),
-                                              QStringLiteral(" where UniteKod = ? "), {satir.at(8)})
+                                              QStringLiteral(" where UniteKod = ? "), {unite})
                                   : QString());
     }
     return sonuc;

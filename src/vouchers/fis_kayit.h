@@ -1,5 +1,7 @@
 #pragma once
 
+#include "fis_sutun.h"
+
 #include <QDate>
 #include <QList>
 #include <QStringList>
@@ -13,8 +15,6 @@ class Veritabani;
 // fallback, write back into it as the screen's controls would show.
 struct FisEkrani
 {
-    static constexpr int SutunSayisi = 17;
-
     QString FisNo;
     QString Tarih;
     QString FCins;  // the key: "G" entry, "C" issue
@@ -27,7 +27,7 @@ struct FisEkrani
     QString NeredenGeldigi;
     QString BelgeTur;
     QString BelgeSayi;
-    // Grid rows 1 upward; each row holds SutunSayisi cells.
+    // Grid rows 1 upward; each row holds FisSutun::Sayi cells.
     QList<QStringList> Satirlar;
 
     QString Hucre(int satir, int sutun) const;

@@ -100,12 +100,12 @@ FisSatir::EnterSonucu FisSatir::GridEnter(Hucre hucre, const QString& birimFiyat
     }
     if (h.sutun < SonSutun)
         ++h.sutun;
-    if (h.sutun == TarihSutunu) {
+    if (h.sutun == FisSutun::BelgeTarih) {
         const int kod = birimFiyat.size() == 1 ? birimFiyat.at(0).digitValue() : -1;
         if (kod >= 2 && kod <= 8)
             sonuc.tarih = sozcukler.at(kod - 2);
     }
-    if (h.sutun < 10)
+    if (h.sutun < FisSutun::Cikan)
         ++h.sutun;
     return sonuc;
 }
@@ -114,8 +114,8 @@ bool FisSatir::AsagiKopyala(QList<QStringList>& satirlar, Hucre hucre)
 {
     const QStringList& ust = satirlar.at(hucre.satir - 1);
     QStringList& alt = satirlar[hucre.satir];
-    if (hucre.sutun == 1 || hucre.sutun == 2)
-        alt[13] = ust.at(13);
+    if (hucre.sutun == FisSutun::HesapKod || hucre.sutun == FisSutun::MalzAdi)
+        alt[FisSutun::KDV] = ust.at(FisSutun::KDV);
     if (ust.at(hucre.sutun).isEmpty())
         return false;
     alt[hucre.sutun] = ust.at(hucre.sutun);
@@ -125,7 +125,7 @@ bool FisSatir::AsagiKopyala(QList<QStringList>& satirlar, Hucre hucre)
 void FisSatir::SatirSil(QList<QStringList>& satirlar, int satir)
 {
     satirlar.removeAt(satir - 1);
-    satirlar.append(QStringList(FisEkrani::SutunSayisi, QString()));
+    satirlar.append(QStringList(FisSutun::Sayi, QString()));
 }
 
 QStringList FisSatir::HesKodListesi(Veritabani& vt)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "fis_sutun.h"
+
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -17,11 +19,8 @@ namespace FisSatir {
 
 // A voucher page prints 25 lines; the grid holds no more.
 inline constexpr int SatirSayisi = 25;
-inline constexpr int TarihSutunu = 7;
-inline constexpr int UniteSutunu = 8;
-inline constexpr int IslemSutunu = 9;
 // The last column that Enter serves.
-inline constexpr int SonSutun = 13;
+inline constexpr int SonSutun = FisSutun::KDV;
 
 // The captions and widths (twips) the grid is set up with.
 QStringList Basliklar();

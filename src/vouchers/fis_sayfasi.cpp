@@ -47,7 +47,7 @@ QString Sabit(const SabitSatiri& sabit, const char* alan)
 
 bool Satirda(const FisEkrani& fis, int i)
 {
-    return !fis.Hucre(i, 1).isEmpty();
+    return !fis.Hucre(i, FisSutun::HesapKod).isEmpty();
 }
 
 double SatirY(int i)
@@ -290,26 +290,26 @@ void SatirlariYaz(Sayfa& sayfa, const FisEkrani& fis)
                 metin = QString::number(i);
                 break;
             case 1:
-                metin = fis.Hucre(i, 1).left(14);
+                metin = fis.Hucre(i, FisSutun::HesapKod).left(14);
                 break;
             case 2:
-                if (fis.Hucre(i, 1).left(3) != u"150")
+                if (fis.Hucre(i, FisSutun::HesapKod).left(3) != u"150")
                     metin = FisYazimiKurali::SicilYazisi(fis, i, i);
                 break;
             case 3:
-                metin = fis.Hucre(i, 3).left(27);
+                metin = fis.Hucre(i, FisSutun::Ozellik).left(27);
                 break;
             case 4:
-                metin = fis.Hucre(i, 4).left(7);
+                metin = fis.Hucre(i, FisSutun::Birimi).left(7);
                 break;
             case 5:
                 metin = SayiMetni(FisYazimiKurali::Miktar(fis, i));
                 break;
             case 6:
-                metin = SayiMetni(Val(fis.Hucre(i, 6)));
+                metin = SayiMetni(Val(fis.Hucre(i, FisSutun::BirimFiyat)));
                 break;
             default: {
-                QVariant tutar = Val(fis.Hucre(i, 6)) * FisYazimiKurali::Miktar(fis, i);
+                QVariant tutar = Val(fis.Hucre(i, FisSutun::BirimFiyat)) * FisYazimiKurali::Miktar(fis, i);
                 metin = Tutar2Yaz(tutar, 15);
             }
             }
@@ -347,13 +347,13 @@ Sayfa FisSayfasi(const FisYazimi& yazim, const SabitSatiri& sabit)
     Ciz::Yaz(sayfa, 6700, 370, fis.Tarih, 11);
     Ciz::Yaz(sayfa, 5600, 1730, fis.KabulTarih, 11);
     Ciz::Yaz(sayfa, 8400, 1730, fis.KabulSayi, 11);
-    Ciz::Yaz(sayfa, 5600, 1730 + BlokSatiri, fis.Hucre(1, 7), 11);
+    Ciz::Yaz(sayfa, 5600, 1730 + BlokSatiri, fis.Hucre(1, FisSutun::BelgeTarih), 11);
     Ciz::Yaz(sayfa, 8400, 1730 + BlokSatiri, fis.BelgeSayi, 11);
 
     Ciz::Yaz(sayfa, 150, BasSatiriY, yazim.IslemAd, 11);
     if (fis.FCins == u"G")
         Ciz::Yaz(sayfa, 2200, BasSatiriY, fis.NeredenGeldigi.left(24), 11);
-    Ciz::Yaz(sayfa, 5300, BasSatiriY, fis.Hucre(1, 11), 11);
+    Ciz::Yaz(sayfa, 5300, BasSatiriY, fis.Hucre(1, FisSutun::KimeVerildigi), 11);
     if (yazim.UniteAd2 != u"false")
         Ciz::Yaz(sayfa, 8000, BasSatiriY, yazim.UniteAd2, 11);
 

@@ -22,13 +22,13 @@ double geriOku(double toplam)
 
 FisToplam::AraToplamlar FisToplam::AraToplam(const FisEkrani& fis)
 {
-    const int miktarSutunu = fis.Hangi == u"G" ? 5 : 10;
+    const int miktarSutunu = fis.Hangi == u"G" ? FisSutun::Miktar : FisSutun::Cikan;
     double miktar = 0;
     double tutar = 0;
     for (int i = 1; i <= fis.Satirlar.size(); ++i) {
         const double satirMiktari = Val(VirgulNokta(fis.Hucre(i, miktarSutunu)));
         miktar = geriOku(miktar) + satirMiktari;
-        tutar = geriOku(tutar) + Val(VirgulNokta(fis.Hucre(i, 6))) * satirMiktari;
+        tutar = geriOku(tutar) + Val(VirgulNokta(fis.Hucre(i, FisSutun::BirimFiyat))) * satirMiktari;
     }
     // Nothing ever adds to the third figure.
     QString ucuncu = SayiMetni(0.0);
@@ -39,11 +39,13 @@ double FisToplam::KdvToplam(FisEkrani& fis)
 {
     double kdv = 0;
     for (int i = 1; i <= FisSatir::SatirSayisi; ++i) {
-        if (Val(fis.Hucre(i, 5)) == 0)
+        if (Val(fis.Hucre(i, FisSutun::Miktar)) == 0)
             continue;
-        if (fis.Hucre(i, 13).isEmpty())
-            fis.HucreYaz(i, 13, QStringLiteral("18"));
-        kdv = geriOku(kdv) + Val(fis.Hucre(i, 6)) * Val(fis.Hucre(i, 5)) / 100 * Val(fis.Hucre(i, 13));
+        if (fis.Hucre(i, FisSutun::KDV).isEmpty())
+            fis.HucreYaz(i, FisSutun::KDV, QStringLiteral("18"));
+        kdv = geriOku(kdv)
+              + Val(fis.Hucre(i, FisSutun::BirimFiyat)) * Val(fis.Hucre(i, FisSutun::Miktar)) / 100
+                    * Val(fis.Hucre(i, FisSutun::KDV));
     }
     return kdv;
 }

@@ -10,19 +10,19 @@ QString FisYazimiKurali::CinsIsareti(const QString& cins, const FisEkrani& fis)
     if (cins != QLatin1String("G"))
         return QString();
     for (int i = 1; i <= 25; ++i)
-        if (Val(fis.Hucre(i, 10)) > 0)
+        if (Val(fis.Hucre(i, FisSutun::Cikan)) > 0)
             return QStringLiteral("GÇ");
     return QStringLiteral("G");
 }
 
 double FisYazimiKurali::Miktar(const FisEkrani& fis, int satir)
 {
-    return Val(fis.Hucre(satir, fis.FCins == QLatin1String("G") ? 5 : 10));
+    return Val(fis.Hucre(satir, fis.FCins == QLatin1String("G") ? FisSutun::Miktar : FisSutun::Cikan));
 }
 
 QString FisYazimiKurali::SicilYazisi(const FisEkrani& fis, int satir, int son)
 {
-    const QString kok = SayiMetni(Val(fis.Hucre(satir, 1).left(13))) + fis.Tarih.mid(6, 4)
+    const QString kok = SayiMetni(Val(fis.Hucre(satir, FisSutun::HesapKod).left(13))) + fis.Tarih.mid(6, 4)
                         + SayiMetni(Val(fis.FisNo));
     return kok.left(21) + QString::number(son);
 }

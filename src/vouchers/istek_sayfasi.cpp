@@ -98,7 +98,7 @@ Sayfa IstekSayfasi(const FisYazimi& yazim, const SabitSatiri& sabit)
 
     int sayac = 0;
     for (int i = 1; i <= Ciz::SatirSayisi; ++i) {
-        const double cikan = Val(fis.Hucre(i, 10));
+        const double cikan = Val(fis.Hucre(i, FisSutun::Cikan));
         if (!(cikan > 0))
             continue;
         ++sayac;
@@ -106,9 +106,9 @@ Sayfa IstekSayfasi(const FisYazimi& yazim, const SabitSatiri& sabit)
         QVariant miktar = cikan;
         const QString istenen = Tutar2Yaz(miktar, 9);
         Ciz::Yaz(s, 180, y, QString::number(sayac), 9);
-        Ciz::Yaz(s, 730, y, fis.Hucre(i, 1).left(16), 9);
-        Ciz::Yaz(s, 2400, y, fis.Hucre(i, 3).left(36), 9);
-        Ciz::Yaz(s, 6000, y, fis.Hucre(i, 4).left(7), 9);
+        Ciz::Yaz(s, 730, y, fis.Hucre(i, FisSutun::HesapKod).left(16), 9);
+        Ciz::Yaz(s, 2400, y, fis.Hucre(i, FisSutun::Ozellik).left(36), 9);
+        Ciz::Yaz(s, 6000, y, fis.Hucre(i, FisSutun::Birimi).left(7), 9);
         Ciz::Yaz(s, 7200, y, istenen, 9);
         // A voucher has one outgoing quantity: the delivered column repeats it.
         Ciz::Yaz(s, 8900, y, istenen, 9);

@@ -136,7 +136,7 @@ Sayfa ZimmetSayfasi(const FisYazimi& yazim, const SabitSatiri& sabit)
     Ciz::Yaz(s, 6500, 940, sabit.value(u"ilKod"_s), 10);
     Ciz::Yaz(s, 2100, 1180, sabit.value(u"KurumAdi"_s), 10);
     Ciz::Yaz(s, 6500, 1180, sabit.value(u"KurumKod"_s), 10);
-    Ciz::Yaz(s, 2100, 1490, fis.Hucre(1, 11), 10);
+    Ciz::Yaz(s, 2100, 1490, fis.Hucre(1, FisSutun::KimeVerildigi), 10);
     if (yazim.UniteAd2 != "false"_L1)
         Ciz::Yaz(s, 2100, 1770, yazim.UniteAd2, 10);
     Ciz::Yaz(s, 6900, 9800, fis.Tarih, 10);
@@ -153,15 +153,15 @@ Sayfa ZimmetSayfasi(const FisYazimi& yazim, const SabitSatiri& sabit)
 
     int sayac = 0;
     for (int i = 1; i <= Ciz::SatirSayisi; ++i) {
-        const QString kod = fis.Hucre(i, 1);
+        const QString kod = fis.Hucre(i, FisSutun::HesapKod);
         if (kod.isEmpty() || kod.left(3) == "150"_L1)
             continue;
         ++sayac;
         const double y = IlkSatirY + (sayac - 1) * Ciz::SatirAdimi;
         Ciz::Yaz(s, 80, y, QString::number(sayac), 9);
         Ciz::Yaz(s, 750, y, FisYazimiKurali::SicilYazisi(fis, i, sayac), 9);
-        Ciz::Yaz(s, 3260, y, fis.Hucre(i, 3).left(35), 9);
-        Ciz::Yaz(s, 7600, y, fis.Hucre(i, 4).left(7), 9);
+        Ciz::Yaz(s, 3260, y, fis.Hucre(i, FisSutun::Ozellik).left(35), 9);
+        Ciz::Yaz(s, 7600, y, fis.Hucre(i, FisSutun::Birimi).left(7), 9);
         // What came in on an entry voucher, what went out on an issue voucher.
         Ciz::Yaz(s, 6700, y, SayiMetni(FisYazimiKurali::Miktar(fis, i)), 9);
     }

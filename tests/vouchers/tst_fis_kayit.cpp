@@ -91,7 +91,7 @@ private slots:
         QCOMPARE(s.hucreler[1],
                  (QStringList{"2", "255 01 01 001", "", "MASAÜSTÜ", "ADET", "2", "18500", "05.03.2026", "3", "1",
                               "2", "AYŞE DEMİR", "0", "20", "OK1", "", ""}));
-        QCOMPARE(s.hucreler[0].at(12), QStringLiteral("1"));
+        QCOMPARE(s.hucreler[0].at(FisSutun::AmbarNo), QStringLiteral("1"));
         QCOMPARE(s.islemAdlari, (QStringList{"SatınAlma", "SatınAlma"}));
 
         const QVariantMap bas = [&] {
@@ -149,28 +149,28 @@ private slots:
         const FisSatirlari s = FisKayit::SatirlariGetir(veri().Ayniyat(), veri().Genel(), QStringLiteral("5"), QStringLiteral("C"),
                                                         QStringLiteral("2026"));
         QCOMPARE(s.hucreler.size(), 2);
-        QCOMPARE(s.hucreler[1].at(0), QStringLiteral("3"));
+        QCOMPARE(s.hucreler[1].at(FisSutun::Sira), QStringLiteral("3"));
     }
 
     void basinVeSatirinTarihYedekleri()
     {
         FisEkrani f = giris();
         f.KabulTarih.clear();
-        f.Satirlar[0][7].clear();
-        f.Satirlar[1][7].clear();
+        f.Satirlar[0][FisSutun::BelgeTarih].clear();
+        f.Satirlar[1][FisSutun::BelgeTarih].clear();
         QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), f, evet), KayitSonucu::Kaydedildi);
         // Today's day and month in the working year for the acceptance date;
         // "01.01." + year for the first line; today's whole date for others.
         QCOMPARE(f.KabulTarih, QStringLiteral("14.03.2026"));
-        QCOMPARE(f.Hucre(1, 7), QStringLiteral("01.01.2026"));
-        QCOMPARE(f.Hucre(2, 7), QStringLiteral("14.03.2026"));
+        QCOMPARE(f.Hucre(1, FisSutun::BelgeTarih), QStringLiteral("01.01.2026"));
+        QCOMPARE(f.Hucre(2, FisSutun::BelgeTarih), QStringLiteral("14.03.2026"));
         QCOMPARE(satir(QStringLiteral("where Satir = 2")).value("BelgeTarih").toString(), QStringLiteral("14.03.2026"));
 
         // With no price on the first line the head's document date is today
         // in the working year instead.
         Saat::Ayarla(QDate(2027, 3, 20));
         FisEkrani g = giris(QStringLiteral("6"));
-        g.Satirlar[0][6].clear();
+        g.Satirlar[0][FisSutun::BirimFiyat].clear();
         QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), g, evet), KayitSonucu::Kaydedildi);
         Veritabani& vt = veri().Baglanti(Dosya::Ayniyat);
         QCOMPARE(AlanGetir(vt, QStringLiteral("FIS_B"), QStringLiteral("BelgeTarih"),
@@ -181,8 +181,8 @@ private slots:
     void sinirlarVeAyniSinifinSicilNosu()
     {
         FisEkrani f = giris();
-        f.Satirlar[1][1] = QStringLiteral("150 01 01 001");
-        f.Satirlar[1][3] = QString(40, u'Ö');
+        f.Satirlar[1][FisSutun::HesapKod] = QStringLiteral("150 01 01 001");
+        f.Satirlar[1][FisSutun::Ozellik] = QString(40, u'Ö');
         f.TeslimAlan = QString(40, u'x');
         QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), f, evet), KayitSonucu::Kaydedildi);
         QCOMPARE(satir(QStringLiteral("where Satir = 1")).value("SicilNo"),
@@ -226,7 +226,7 @@ private slots:
         FisEkrani f = giris(QStringLiteral("x"));
         QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), f, evet), KayitSonucu::FisNoYok);
         f = giris();
-        f.Satirlar[0][1].clear();
+        f.Satirlar[0][FisSutun::HesapKod].clear();
         QCOMPARE(FisKayit::Kaydet(veri().Ayniyat(), f, evet), KayitSonucu::IlkSatirBos);
 
         // Another month on the computer: the question decides.
@@ -277,7 +277,7 @@ private slots:
         }
         FisEkrani bozuk = giris();
         bozuk.TeslimAlan = QStringLiteral("Başkası");
-        bozuk.Satirlar[1][1] = QStringLiteral("HATA");
+        bozuk.Satirlar[1][FisSutun::HesapKod] = QStringLiteral("HATA");
         QVERIFY_THROWS_EXCEPTION(VeriHatasi, FisKayit::Kaydet(veri().Ayniyat(), bozuk, evet));
         QCOMPARE(say(QStringLiteral("FIS")), 2);
         QCOMPARE(satir(QStringLiteral("where Satir = 2")).value("HesapKod").toString(),

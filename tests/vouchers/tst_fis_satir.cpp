@@ -32,7 +32,7 @@ class TstFisSatir : public QObject, protected GeciciVeri
     }
     static QList<QStringList> bosSatirlar()
     {
-        return QList<QStringList>(FisSatir::SatirSayisi, QStringList(FisEkrani::SutunSayisi, QString()));
+        return QList<QStringList>(FisSatir::SatirSayisi, QStringList(FisSutun::Sayi, QString()));
     }
 
 private slots:
@@ -44,26 +44,27 @@ private slots:
 
     void gridEnter_data()
     {
+        using namespace FisSutun;
         QTest::addColumn<int>("satir");
         QTest::addColumn<int>("sutun");
         QTest::addColumn<QString>("fiyat");
         QTest::addColumn<int>("yeniSatir");
         QTest::addColumn<int>("yeniSutun");
         QTest::addColumn<QString>("tarih");
-        QTest::newRow("3 → 5") << 2 << 3 << "" << 2 << 5 << QString();
-        QTest::newRow("4 → 6") << 2 << 4 << "" << 2 << 6 << QString();
-        QTest::newRow("5 → 7, no word") << 2 << 5 << "5" << 2 << 7 << QString();
-        QTest::newRow("10 → 11") << 2 << 10 << "" << 2 << 11 << QString();
-        QTest::newRow("12 → 13") << 2 << 12 << "" << 2 << 13 << QString();
-        QTest::newRow("13 stays") << 2 << 13 << "" << 2 << 13 << QString();
-        QTest::newRow("0 → 2") << 2 << 0 << "" << 2 << 2 << QString();
-        QTest::newRow("past 13: next row") << 25 << 14 << "" << 26 << 2 << QString();
-        QTest::newRow("price 5") << 2 << 6 << "5" << 2 << 8 << "İlçe.Verilen";
-        QTest::newRow("price 2") << 2 << 6 << "2" << 2 << 8 << "KDV    ";
-        QTest::newRow("price 8") << 2 << 6 << "8" << 2 << 8 << "NazımHesap";
-        QTest::newRow("price 1") << 2 << 6 << "1" << 2 << 8 << QString();
-        QTest::newRow("price 5,0") << 2 << 6 << "5,0" << 2 << 8 << QString();
-        QTest::newRow("price ' 5'") << 2 << 6 << " 5" << 2 << 8 << QString();
+        QTest::newRow("3 → 5") << 2 << int(Ozellik) << "" << 2 << int(Miktar) << QString();
+        QTest::newRow("4 → 6") << 2 << int(Birimi) << "" << 2 << int(BirimFiyat) << QString();
+        QTest::newRow("5 → 7, no word") << 2 << int(Miktar) << "5" << 2 << int(BelgeTarih) << QString();
+        QTest::newRow("10 → 11") << 2 << int(Cikan) << "" << 2 << int(KimeVerildigi) << QString();
+        QTest::newRow("12 → 13") << 2 << int(AmbarNo) << "" << 2 << int(KDV) << QString();
+        QTest::newRow("13 stays") << 2 << int(KDV) << "" << 2 << int(KDV) << QString();
+        QTest::newRow("0 → 2") << 2 << int(Sira) << "" << 2 << int(MalzAdi) << QString();
+        QTest::newRow("past 13: next row") << 25 << int(OzelKod) << "" << 26 << int(MalzAdi) << QString();
+        QTest::newRow("price 5") << 2 << int(BirimFiyat) << "5" << 2 << int(Unite) << "İlçe.Verilen";
+        QTest::newRow("price 2") << 2 << int(BirimFiyat) << "2" << 2 << int(Unite) << "KDV    ";
+        QTest::newRow("price 8") << 2 << int(BirimFiyat) << "8" << 2 << int(Unite) << "NazımHesap";
+        QTest::newRow("price 1") << 2 << int(BirimFiyat) << "1" << 2 << int(Unite) << QString();
+        QTest::newRow("price 5,0") << 2 << int(BirimFiyat) << "5,0" << 2 << int(Unite) << QString();
+        QTest::newRow("price ' 5'") << 2 << int(BirimFiyat) << " 5" << 2 << int(Unite) << QString();
     }
     void gridEnter()
     {
@@ -82,15 +83,16 @@ private slots:
 
     void asagiKopyala_data()
     {
+        using namespace FisSutun;
         QTest::addColumn<int>("sutun");
         QTest::addColumn<QString>("metin");
         QTest::addColumn<bool>("asagi");
         QTest::addColumn<QString>("alttaki");
         QTest::addColumn<QString>("alttakiKdv");
-        QTest::newRow("description") << 3 << "MAVİ" << true << "MAVİ" << "";
-        QTest::newRow("code with its rate") << 1 << "150 01 01 001" << true << "150 01 01 001" << "18";
-        QTest::newRow("empty name, rate still") << 2 << "" << false << "" << "18";
-        QTest::newRow("empty cell") << 5 << "" << false << "" << "";
+        QTest::newRow("description") << int(Ozellik) << "MAVİ" << true << "MAVİ" << "";
+        QTest::newRow("code with its rate") << int(HesapKod) << "150 01 01 001" << true << "150 01 01 001" << "18";
+        QTest::newRow("empty name, rate still") << int(MalzAdi) << "" << false << "" << "18";
+        QTest::newRow("empty cell") << int(Miktar) << "" << false << "" << "";
     }
     void asagiKopyala()
     {
@@ -101,11 +103,11 @@ private slots:
         QFETCH(QString, alttakiKdv);
         QList<QStringList> s = bosSatirlar();
         s[3][sutun] = metin;
-        s[3][13] = QStringLiteral("18");
+        s[3][FisSutun::KDV] = QStringLiteral("18");
         s[4][sutun] = QString();
         QCOMPARE(FisSatir::AsagiKopyala(s, {4, sutun}), asagi);
         QCOMPARE(s[4][sutun], alttaki);
-        QCOMPARE(s[4][13], alttakiKdv);
+        QCOMPARE(s[4][FisSutun::KDV], alttakiKdv);
         QCOMPARE(s[3][sutun], metin);
     }
 
@@ -113,13 +115,13 @@ private slots:
     {
         QList<QStringList> s = bosSatirlar();
         for (int r = 0; r < FisSatir::SatirSayisi; ++r)
-            s[r][1] = QString::number(r + 1);
+            s[r][FisSutun::HesapKod] = QString::number(r + 1);
         FisSatir::SatirSil(s, 2);
         QCOMPARE(s.size(), FisSatir::SatirSayisi);
-        QCOMPARE(s[0][1], QStringLiteral("1"));
-        QCOMPARE(s[1][1], QStringLiteral("3"));
-        QCOMPARE(s[23][1], QStringLiteral("25"));
-        QCOMPARE(s[24], QStringList(FisEkrani::SutunSayisi, QString()));
+        QCOMPARE(s[0][FisSutun::HesapKod], QStringLiteral("1"));
+        QCOMPARE(s[1][FisSutun::HesapKod], QStringLiteral("3"));
+        QCOMPARE(s[23][FisSutun::HesapKod], QStringLiteral("25"));
+        QCOMPARE(s[24], QStringList(FisSutun::Sayi, QString()));
     }
 
     void buyukHarf()

@@ -39,9 +39,10 @@ SabitSatiri sabit()
 QStringList satir(const QString& kod, const QString& ad, const QString& miktar, const QString& fiyat,
                   const QString& cikan = QString())
 {
-    QStringList s(FisEkrani::SutunSayisi);
-    s[1] = kod, s[3] = ad, s[4] = u"ADET"_s, s[5] = miktar, s[6] = fiyat;
-    s[7] = u"12.03.2026"_s, s[10] = cikan, s[11] = u"Mehmet Öztürk"_s;
+    QStringList s(FisSutun::Sayi);
+    using namespace FisSutun;
+    s[HesapKod] = kod, s[Ozellik] = ad, s[Birimi] = u"ADET"_s, s[Miktar] = miktar, s[BirimFiyat] = fiyat;
+    s[BelgeTarih] = u"12.03.2026"_s, s[Cikan] = cikan, s[KimeVerildigi] = u"Mehmet Öztürk"_s;
     return s;
 }
 

@@ -14,12 +14,12 @@ namespace {
 QStringList satir(const QString& miktar, const QString& fiyat, const QString& cikan = {},
                   const QString& kdv = {})
 {
-    QStringList s(FisEkrani::SutunSayisi);
-    s[1] = QStringLiteral("150 01 01 001");
-    s[5] = miktar;
-    s[6] = fiyat;
-    s[10] = cikan;
-    s[13] = kdv;
+    QStringList s(FisSutun::Sayi);
+    s[FisSutun::HesapKod] = QStringLiteral("150 01 01 001");
+    s[FisSutun::Miktar] = miktar;
+    s[FisSutun::BirimFiyat] = fiyat;
+    s[FisSutun::Cikan] = cikan;
+    s[FisSutun::KDV] = kdv;
     return s;
 }
 
@@ -145,7 +145,7 @@ private slots:
         FisEkrani f = fis(hangi, satirlar);
         QCOMPARE(FisToplam::KdvToplam(f), kdv);
         for (int i = 0; i < oranlar.size(); ++i)
-            QCOMPARE(f.Hucre(i + 1, 13), oranlar.at(i));
+            QCOMPARE(f.Hucre(i + 1, FisSutun::KDV), oranlar.at(i));
     }
 
     void kayittanYazim()
@@ -169,8 +169,8 @@ private slots:
             QCOMPARE(FisKayit::Kaydet(veri.Ayniyat(), f, [] { return true; }), KayitSonucu::Kaydedildi);
         };
         QStringList birinci = satir("10", "125.5", "", "8");
-        birinci[8] = QStringLiteral("3");
-        birinci[9] = QStringLiteral("2");
+        birinci[FisSutun::Unite] = QStringLiteral("3");
+        birinci[FisSutun::IslemTur] = QStringLiteral("2");
         kaydet(QStringLiteral("1"), QStringLiteral("G"), {birinci, satir("2", "100", "", "20")});
         kaydet(QStringLiteral("1"), QStringLiteral("C"), {satir("", "10.05", "1")});
 

@@ -33,8 +33,10 @@ const SabitSatiri sabit = {{u"ilAdi"_s, u"Ankara / Çankaya"_s},
 QStringList satir(const QString& kod, const QString& ad, const QString& miktar, const QString& cikan,
                   const QString& birim = u"ADET"_s, const QString& kime = QString())
 {
-    QStringList s(FisEkrani::SutunSayisi);
-    s[1] = kod, s[3] = ad, s[4] = birim, s[5] = miktar, s[6] = u"10"_s, s[10] = cikan, s[11] = kime;
+    QStringList s(FisSutun::Sayi);
+    using namespace FisSutun;
+    s[HesapKod] = kod, s[Ozellik] = ad, s[Birimi] = birim, s[Miktar] = miktar, s[BirimFiyat] = u"10"_s;
+    s[Cikan] = cikan, s[KimeVerildigi] = kime;
     return s;
 }
 

@@ -1,6 +1,7 @@
 #include "bicim.h"
 
 #include <QList>
+#include <QLocale>
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -380,4 +381,9 @@ std::optional<double> SayiDegeri(const QVariant& deger)
     if (!r)
         return std::nullopt;
     return Sayi(*r);
+}
+
+QString BuyukHarf(const QString& metin)
+{
+    return QLocale(QLocale::Turkish).toUpper(metin);
 }

@@ -34,3 +34,6 @@ QString SayiMetni(const QVariant& deger);
 // The number a value stands for: numbers as they are, an empty QVariant as 0,
 // texts read as Turkish numbers. Nothing for a text that is not a number.
 std::optional<double> SayiDegeri(const QVariant& deger);
+
+// Upper case by the Turkish rules: i becomes İ, ı becomes I.
+QString BuyukHarf(const QString& metin);

@@ -126,7 +126,7 @@ QVariantMap kipi(const QString& komut)
         {QStringLiteral("Command13"), s({{"ilk1", "1"}, {"FCins", "G"}, {"Hangi", "G"}})},
         {QStringLiteral("CmdCikis"),
          s({{"Label2", QStringLiteral("Ambardan Çıkış")}, {"ilk1", "1"}, {"FCins", "C"}, {"Hangi", "C"},
-            {"IslemTur", "10"}, {"CikisGizle", true}})},
+            {"CikisGizle", true}})},
         {QStringLiteral("TF2"), s({{"ilk1", "1"}})},
         {QStringLiteral("Command7"), s({{"Hangi", "D"}})},
         {QStringLiteral("SL"), s({{"Hangi", "D"}})},

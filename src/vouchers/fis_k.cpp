@@ -1,7 +1,6 @@
 #include "fis_k.h"
 
 #include "bicim.h"
-#include "fis_izgara.h"
 #include "fis_l.h"
 #include "fis_toplam.h"
 #include "fis_yaz.h"
@@ -11,7 +10,9 @@
 #include "liste_izgarasi.h"
 #include "malzeme_l.h"
 #include "saat.h"
+#include "satir_izgarasi.h"
 #include "sinif_tani.h"
+#include "tarih_secici.h"
 #include "tek_deger.h"
 #include "veritabani.h"
 #include "zimmet_yaz.h"
@@ -25,7 +26,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScrollBar>
+#include <QStringListModel>
 #include <QToolButton>
 
 #include <algorithm>
@@ -166,8 +167,16 @@ FIS_K::FIS_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
     Label15->setFrameShape(QFrame::StyledPanel);
     ana->addWidget(Label15);
 
-    T = new FisIzgarasi(this);
+    m_hesKodlari = new QStringListModel(this);
+    m_sinifListesi = new QStringListModel(this);
+    m_uniteListesi = new QStringListModel(this);
+    m_islemTurleri = new QStringListModel(FisKayit::IslemTurleri(), this);
+    T = new SatirIzgarasi(new FisModeli, this);
     T->setObjectName(QStringLiteral("T"));
+    T->Delege()->ListeVer(FisSutun::HesapKod, m_hesKodlari);
+    T->Delege()->ListeVer(FisSutun::MalzAdi, m_sinifListesi);
+    T->Delege()->ListeVer(FisSutun::Unite, m_uniteListesi);
+    T->Delege()->ListeVer(FisSutun::IslemTur, m_islemTurleri);
     ana->addWidget(T, 1);
 
     auto* alt = new QHBoxLayout;
@@ -249,20 +258,7 @@ FIS_K::FIS_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
     dugme(dugmeler2, cd8, QStringLiteral("cd8"), QStringLiteral("Çıkış"));
     DurumSatiriEkle(ana);
 
-    // The editors float over the grid's current cell, the movement list over
-    // the whole grid.
-    TE1 = metinKutusu(QStringLiteral("TE1"));
-    HesKod = yazilirKutu(QStringLiteral("HesKod"), this);
-    Detay3 = yazilirKutu(QStringLiteral("Detay3"), this);
-    UniteAd = yazilirKutu(QStringLiteral("UniteAd"), this);
-    IslemTur = yazilirKutu(QStringLiteral("IslemTur"), this);
-    IslemTur->addItems(FisKayit::IslemTurleri());
-    TDate = new TarihSecici(this);
-    TDate->setObjectName(QStringLiteral("TDate"));
-    for (QComboBox* kutu : {HesKod, Detay3, UniteAd, IslemTur})
-        kutu->view()->setMinimumWidth(fontMetrics().averageCharWidth() * 40);
-    for (QWidget* e : std::initializer_list<QWidget*>{TE1, HesKod, Detay3, UniteAd, IslemTur, TDate})
-        e->hide();
+    // The movement list stands over the whole grid.
     L3 = new ListeIzgarasi(this);
     L3->setObjectName(QStringLiteral("L3"));
     L3->Genislikler(FisSatir::HareketGenislikleri());
@@ -289,34 +285,10 @@ FIS_K::FIS_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
     for (QWidget* w : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
         if (w->focusPolicy() != Qt::NoFocus)
             w->installEventFilter(this);
-    T->viewport()->installEventFilter(this);
 
-    connect(T, &FisIzgarasi::HucreDegisti, this, &FIS_K::HucreDegisti);
-    connect(T->verticalScrollBar(), &QScrollBar::valueChanged, this, &FIS_K::EditorYerlestir);
-    connect(T->horizontalScrollBar(), &QScrollBar::valueChanged, this, &FIS_K::EditorYerlestir);
-    connect(TE1, &QLineEdit::textChanged, this, [this](const QString& metin) {
-        const QString buyuk = FisSatir::BuyukHarf(metin);
-        if (buyuk != metin) {
-            const int yer = TE1->cursorPosition();
-            TE1->setText(buyuk);
-            TE1->setCursorPosition(yer);
-            return;
-        }
-        HucreYaz(T->Col(), metin);
-    });
-    // What is typed over the code, unit and transaction columns is taken as
-    // it stands: no code has to exist.
-    connect(HesKod->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& m) { HucreYaz(1, m); });
-    connect(UniteAd->lineEdit(), &QLineEdit::textEdited, this,
-            [this](const QString& m) { HucreYaz(FisSutun::Unite, m); });
-    connect(IslemTur->lineEdit(), &QLineEdit::textEdited, this,
-            [this](const QString& m) { HucreYaz(FisSutun::IslemTur, m); });
-    connect(TDate, &QDateEdit::dateChanged, this, [this] { HucreYaz(FisSutun::BelgeTarih, TDate->Metin()); });
-    connect(HesKod, &QComboBox::activated, this, &FIS_K::HesKodSecildi);
-    connect(Detay3, &QComboBox::activated, this, &FIS_K::Detay3Secildi);
-    connect(UniteAd, &QComboBox::activated, this, &FIS_K::UniteAdSecildi);
-    connect(IslemTur, &QComboBox::activated, this,
-            [this](int sira) { HucreYaz(FisSutun::IslemTur, QString::number(sira + 1)); });
+    connect(T, &SatirIzgarasi::EditorAcildi, this, [this](QWidget* editor) { editor->installEventFilter(this); });
+    connect(T, &SatirIzgarasi::HucreDegisti, this, &FIS_K::HucreDegisti);
+    connect(T->Delege(), &IzgaraDelegesi::Secildi, this, &FIS_K::ListedenSecildi);
 
     connect(BTYukari, &QToolButton::clicked, this, [this] { Adim(1, true); });
     connect(BTAsagi, &QToolButton::clicked, this, [this] { Adim(-1, true); });
@@ -356,7 +328,7 @@ FIS_K::FIS_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
     TusTanimla(QKeySequence(Qt::Key_F7), [this] { IstekYazdir(); });
     // F8 typed in the line editor deletes the row as well.
     TusTanimla(QKeySequence(Qt::Key_F8), [this] {
-        if (QApplication::focusWidget() == TE1)
+        if (TE1() && QApplication::focusWidget() == TE1())
             SatirSil();
         SinifEkraniAc();
     });
@@ -395,8 +367,6 @@ void FIS_K::KipAyarla(const QVariantMap& kip)
             Hangi = deger;
         else if (i.key() == u"Label2")
             Label2->setText(deger);
-        else if (i.key() == u"IslemTur")
-            IslemTur->setEditText(deger);
         else if (i.key() == u"CikisGizle" && i.value().toBool())
             for (QWidget* w : std::initializer_list<QWidget*>{KabulSayi, KabulTarih, Label16, Label7, Label23,
                                                               NeredenGeldigi})
@@ -416,16 +386,15 @@ void FIS_K::Etkinlesti()
     if (ilk1 == u"1")
         EnSon();
     if (Hangi == u"G") {
-        T->Baslik(5, QStringLiteral("Miktarı "));
-        T->Baslik(7, QStringLiteral("FaturaTarih"));
+        T->Baslik(FisSutun::Miktar, QStringLiteral("Miktarı "));
+        T->Baslik(FisSutun::BelgeTarih, QStringLiteral("FaturaTarih"));
     } else {
         if (Hangi == u"C") {
-            T->Baslik(5, QString());
-            T->Genislik(5, 100);
+            T->Baslik(FisSutun::Miktar, QString());
+            T->Genislik(FisSutun::Miktar, 100);
         }
-        T->Baslik(7, QStringLiteral("BelgeTarih "));
+        T->Baslik(FisSutun::BelgeTarih, QStringLiteral("BelgeTarih "));
     }
-    EditorYerlestir();
 }
 
 FisEkrani FIS_K::Ekran() const
@@ -488,7 +457,6 @@ void FIS_K::KdvToplam()
     FisEkrani fis = Ekran();
     KDVTOP = SayiMetni(FisToplam::KdvToplam(fis));
     T->HucreleriYaz(fis.Satirlar);
-    Yaz2();
 }
 
 FisYazimi FIS_K::Yazim() const
@@ -540,9 +508,9 @@ void FIS_K::IstekYazdir()
 
 void FIS_K::kdvORAN2()
 {
-    if (T->Col() != 6)
+    if (T->Col() != FisSutun::BirimFiyat)
         return;
-    KDVOran->setText(Hucre(13).trimmed());
+    KDVOran->setText(Hucre(FisSutun::KDV).trimmed());
     // The box stands left of the price cell, its hint under it.
     const QRect alan = T->HucreAlani();
     const QPoint hucre = T->viewport()->mapTo(this, alan.topLeft());
@@ -563,10 +531,9 @@ void FIS_K::kdvORAN2()
 void FIS_K::KdvOranEnter()
 {
     const QString oran = KDVOran->text();
-    if (const std::optional<double> fiyat = FisToplam::KdvEkle(Hucre(6), oran))
-        HucreYaz(6, SayiMetni(*fiyat));
-    HucreYaz(13, oran);
-    TE1->setText(Hucre(6));
+    if (const std::optional<double> fiyat = FisToplam::KdvEkle(Hucre(FisSutun::BirimFiyat), oran))
+        HucreYaz(FisSutun::BirimFiyat, SayiMetni(*fiyat));
+    HucreYaz(FisSutun::KDV, oran);
     T->setFocus();
     KdvOranGizle();
 }
@@ -610,7 +577,6 @@ void FIS_K::Kaydet()
         // The save filled the empty dates.
         KabulTarih->setText(fis.KabulTarih);
         T->HucreleriYaz(fis.Satirlar);
-        Yaz2();
         Durum(QStringLiteral("        Kayıt Yapıldı ..   "));
         FisNo->setFocus();
         break;
@@ -654,7 +620,7 @@ void FIS_K::SatirlariGetir()
     T->HucreleriYaz(satirlar.hucreler);
     m_sinifAdlari.clear();
     for (const QStringList& satir : satirlar.hucreler)
-        m_sinifAdlari << satir.at(2);
+        m_sinifAdlari << satir.at(FisSutun::MalzAdi);
     m_islemAdlari = satirlar.islemAdlari;
     m_uniteAdlari = satirlar.uniteAdlari;
     HucreDegisti(T->Row(), T->Col());
@@ -684,7 +650,6 @@ void FIS_K::EnSon()
 
 void FIS_K::Temizle()
 {
-    UniteAd->setEditText(QString());
     FisEkrani fis = Ekran();
     FisKayit::Temizle(fis);
     BasYaz(fis);
@@ -702,21 +667,20 @@ void FIS_K::Yeni()
 
 void FIS_K::GridHazirla()
 {
-    const QStringList basliklar = FisSatir::Basliklar();
-    const QList<int> genislikler = FisSatir::Genislikler();
+    const QList<IzgaraSutunu> sutunlar = FisSatir::Sutunlar();
     for (int c = 0; c < FisSutun::Sayi; ++c) {
-        T->Baslik(c, basliklar.at(c));
-        T->Genislik(c, genislikler.at(c));
+        T->Baslik(c, sutunlar.at(c).baslik);
+        T->Genislik(c, sutunlar.at(c).genislik);
     }
-    T->HucreSec(1, 0);
-    HucreDegisti(1, 0);
+    T->HucreSec(1, FisSutun::Sira);
+    HucreDegisti(1, FisSutun::Sira);
 }
 
 void FIS_K::Urunler()
 {
     Dene([this] {
-        listeDoldur(HesKod, FisSatir::HesKodListesi(Genel()));
-        listeDoldur(Detay3, FisSatir::SinifAdlari(Genel()));
+        ListeDoldur(m_hesKodlari, FisSatir::HesKodListesi(Genel()));
+        ListeDoldur(m_sinifListesi, FisSatir::SinifAdlari(Genel()));
     });
 }
 
@@ -749,11 +713,11 @@ void FIS_K::HucreDegisti(int satir, int sutun)
     Label13->setText(m_sinifAdlari.value(satir - 1));
     Label19->setText(m_islemAdlari.value(satir - 1));
     Label20->setText(m_uniteAdlari.value(satir - 1));
-    CmdKDVEkle->setVisible(sutun == 6);
-    Label15->setText(FisSatir::Ipucu(sutun));
-    if (sutun == 4 && Hucre(4).isEmpty())
-        HucreYaz(4, QStringLiteral("ADET"));
-    if (sutun == 5 || sutun == 6)
+    CmdKDVEkle->setVisible(sutun == FisSutun::BirimFiyat);
+    Label15->setText(T->Model()->Sutunlar().at(sutun).ipucu);
+    if (sutun == FisSutun::Birimi && Hucre(FisSutun::Birimi).isEmpty())
+        HucreYaz(FisSutun::Birimi, QStringLiteral("ADET"));
+    if (sutun == FisSutun::Miktar || sutun == FisSutun::BirimFiyat)
         AraToplam();
     const QString uniteKod = Hucre(FisSutun::Unite);
     if (sutun >= FisSutun::BelgeTarih && sutun <= FisSutun::IslemTur && Val(uniteKod) != 0)
@@ -761,82 +725,34 @@ void FIS_K::HucreDegisti(int satir, int sutun)
             UniteAd2 = AlanGetir(Genel(), QStringLiteral("Unite_K"), QStringLiteral("UniteAd"),
                                  QStringLiteral(" where UniteKod = ? "), {uniteKod});
         });
-    Yaz2();
 }
 
-void FIS_K::Yaz2()
+QLineEdit* FIS_K::TE1() const
 {
-    const int sutun = T->Col();
-    const QString metin = Hucre(sutun);
-    TE1->setText(metin);
-    switch (sutun) {
-    case 1:
-        HesKod->setEditText(metin);
-        break;
-    case 2:
-        Detay3->setEditText(metin);
-        break;
-    case FisSutun::BelgeTarih:
-        TDate->MetinYaz(metin);
-        break;
-    case FisSutun::Unite:
-        UniteAd->setEditText(metin);
-        break;
-    case FisSutun::IslemTur:
-        IslemTur->setEditText(metin);
-        break;
-    }
-    EditorYerlestir();
+    return qobject_cast<QLineEdit*>(T->Editor());
 }
 
-QWidget* FIS_K::SutunEditoru(int sutun) const
+QString FIS_K::KodMetni() const
 {
-    switch (sutun) {
-    case 1:
-        return HesKod;
-    case 2:
-        return Detay3;
-    case FisSutun::BelgeTarih:
-        return TDate;
-    case FisSutun::Unite:
-        return UniteAd;
-    case FisSutun::IslemTur:
-        return IslemTur;
-    default:
-        return TE1;
-    }
+    const auto* kutu = qobject_cast<const QComboBox*>(T->Editor());
+    return kutu && T->Col() == FisSutun::HesapKod ? kutu->currentText() : Hucre(FisSutun::HesapKod);
 }
 
-void FIS_K::EditorYerlestir()
+void FIS_K::EditorOdak()
 {
-    const QRect alan = T->HucreAlani();
-    const bool gorunur = T->isVisible() && T->Row() > 0 && T->viewport()->rect().intersects(alan);
-    const QRect hucre(T->viewport()->mapTo(this, alan.topLeft()), alan.size());
-    const int sutun = T->Col();
-    QWidget* editor = SutunEditoru(sutun);
-    for (QWidget* e : std::initializer_list<QWidget*>{HesKod, Detay3, TDate, UniteAd, IslemTur})
-        if (e != editor)
-            e->hide();
-    // The line editor stands a little larger than the cell, and stays under
-    // the date, unit and transaction editors as well.
-    const bool satirKutusu = sutun != 1 && sutun != 2;
-    TE1->setGeometry(hucre.adjusted(0, -T->TwipPiksel(30), T->TwipPiksel(250), T->TwipPiksel(30)));
-    TE1->setVisible(gorunur && satirKutusu);
-    if (editor != TE1) {
-        editor->setGeometry(hucre);
-        editor->setVisible(gorunur);
-        editor->raise();
-    }
-    L3->setGeometry(T->geometry());
-    L3->raise();
+    T->Editor()->setFocus();
+    if (QLineEdit* kutu = TE1())
+        MetinSec(kutu);
 }
 
-void FIS_K::EditorOdak(int sutun)
+void FIS_K::ListeDoldur(QStringListModel* liste, const QStringList& ogeler)
 {
-    QWidget* editor = SutunEditoru(sutun);
-    editor->setFocus();
-    if (editor == TE1)
-        MetinSec(TE1);
+    auto* kutu = qobject_cast<QComboBox*>(T->Editor());
+    const bool bunda = kutu && kutu->model() == liste;
+    const QString metin = bunda ? kutu->currentText() : QString();
+    liste->setStringList(ogeler);
+    if (bunda)
+        kutu->setEditText(metin);
 }
 
 bool FIS_K::SatirGit(int satir, int sutun)
@@ -875,14 +791,12 @@ bool FIS_K::eventFilter(QObject* nesne, QEvent* olay)
             return FisNoTusu(tus);
         if (nesne == T)
             return IzgaraTusu(tus);
-        if (nesne == TE1)
-            return TE1Tusu(tus);
+        if (nesne == T->Editor())
+            return TE1() ? TE1Tusu(tus) : EditorTusu(tus);
         if (nesne == KDVOran && enterMi(tus)) {
             KdvOranEnter();
             return true;
         }
-        if (nesne == HesKod || nesne == Detay3 || nesne == UniteAd || nesne == IslemTur || nesne == TDate)
-            return EditorTusu(static_cast<QWidget*>(nesne), tus);
         if (nesne == Tarih || nesne == KabulTarih || nesne == KabulSayi || nesne == TeslimAlan || nesne == BelgeTur
             || nesne == BelgeSayi || nesne == NeredenGeldigi)
             return BasTusu(static_cast<QWidget*>(nesne), tus);
@@ -898,8 +812,8 @@ bool FIS_K::eventFilter(QObject* nesne, QEvent* olay)
             Dene([this] { listeDoldur(TeslimAlan, FisSatir::TeslimAlanlar(Ayniyat(), FCins)); });
         else if (nesne == NeredenGeldigi)
             Dene([this] { listeDoldur(NeredenGeldigi, FisSatir::NeredenGeldiler(Ayniyat(), FCins)); });
-        else if (nesne == UniteAd)
-            Dene([this] { listeDoldur(UniteAd, FisSatir::UniteAdlari(Genel())); });
+        else if (nesne == T->Editor() && T->Col() == FisSutun::Unite)
+            Dene([this] { ListeDoldur(m_uniteListesi, FisSatir::UniteAdlari(Genel())); });
         break;
     }
     case QEvent::FocusOut: {
@@ -915,8 +829,10 @@ bool FIS_K::eventFilter(QObject* nesne, QEvent* olay)
     case QEvent::Move:
     case QEvent::Resize:
     case QEvent::Show:
-        if (nesne == T || nesne == T->viewport())
-            EditorYerlestir();
+        if (nesne == T) {
+            L3->setGeometry(T->geometry());
+            L3->raise();
+        }
         break;
     default:
         break;
@@ -926,9 +842,9 @@ bool FIS_K::eventFilter(QObject* nesne, QEvent* olay)
 
 void FIS_K::EscTusu(QObject* nesne)
 {
-    if (nesne == TE1) {
+    if (TE1() && nesne == TE1()) {
         // Esc blanks the cell; there is nothing to undo to.
-        TE1->clear();
+        TE1()->clear();
         T->setFocus();
     } else if (nesne == L3) {
         L3Kapat();
@@ -1010,34 +926,39 @@ bool FIS_K::IzgaraTusu(QKeyEvent* olay)
         return false;
     const int satir = T->Row();
     const int sutun = T->Col();
-    switch (sutun) {
-    case 1:
-    case 2:
-    case FisSutun::Unite:
-    case FisSutun::IslemTur: {
-        auto* kutu = static_cast<QComboBox*>(SutunEditoru(sutun));
+    switch (T->SutunEditoru(sutun)) {
+    case EditorTuru::Liste: {
+        auto* kutu = static_cast<QComboBox*>(T->Editor());
         kutu->setFocus();
         MetinSec(kutu);
         TusuGonder(kutu->lineEdit(), olay);
         return true;
     }
-    case FisSutun::BelgeTarih:
-        if (olay->key() == Qt::Key_Space && !TDate->Bos()) {
-            TDate->MetinYaz(QString());
-            HucreYaz(FisSutun::BelgeTarih, QString());
+    case EditorTuru::Tarih: {
+        auto* tarih = static_cast<TarihSecici*>(T->Editor());
+        if (olay->key() == Qt::Key_Space && !tarih->Bos()) {
+            HucreYaz(sutun, QString());
         } else {
-            TDate->GunYaz(Saat::Bugun());
-            HucreYaz(FisSutun::BelgeTarih, TDate->Metin());
-            TDate->setFocus();
+            BugunYaz();
+            tarih->setFocus();
         }
         return true;
-    default:
-        if (sutun > FisSatir::SonSutun && !SatirGit(satir + 1, 0))
+    }
+    case EditorTuru::Metin:
+        if (sutun > FisSatir::SonSutun && !SatirGit(satir + 1, FisSutun::Sira))
             return true;
-        EditorOdak(T->Col());
-        TusuGonder(TE1, olay);
+        EditorOdak();
+        TusuGonder(TE1(), olay);
         return true;
     }
+    return false;
+}
+
+void FIS_K::BugunYaz()
+{
+    auto* tarih = static_cast<TarihSecici*>(T->Editor());
+    tarih->GunYaz(Saat::Bugun());
+    HucreYaz(FisSutun::BelgeTarih, tarih->Metin());
 }
 
 void FIS_K::IzgaraEnter()
@@ -1045,28 +966,27 @@ void FIS_K::IzgaraEnter()
     const int satir = T->Row();
     const int sutun = T->Col();
     switch (sutun) {
-    case 1:
+    case FisSutun::HesapKod:
         MalzAdGetir();
-        T->HucreSec(satir, 2);
-        EditorOdak(2);
+        T->HucreSec(satir, FisSutun::MalzAdi);
+        EditorOdak();
         return;
-    case 2:
+    case FisSutun::MalzAdi:
     case FisSutun::Unite:
     case FisSutun::IslemTur:
-        EditorOdak(sutun);
+        EditorOdak();
         return;
     case FisSutun::BelgeTarih:
         // Enter is a key like any other here: the date becomes today's.
-        TDate->GunYaz(Saat::Bugun());
-        HucreYaz(FisSutun::BelgeTarih, TDate->Metin());
-        TDate->setFocus();
+        BugunYaz();
+        EditorOdak();
         return;
     default: {
-        const FisSatir::EnterSonucu sonuc = FisSatir::GridEnter({satir, sutun}, Hucre(6));
+        const FisSatir::EnterSonucu sonuc = FisSatir::GridEnter({satir, sutun}, Hucre(FisSutun::BirimFiyat));
         if (!sonuc.tarih.isNull())
             HucreYaz(FisSutun::BelgeTarih, sonuc.tarih);
         if (SatirGit(sonuc.hucre.satir, sonuc.hucre.sutun))
-            EditorOdak(sonuc.hucre.sutun);
+            EditorOdak();
     }
     }
 }
@@ -1092,7 +1012,7 @@ bool FIS_K::TE1Tusu(QKeyEvent* olay)
     case Qt::Key_Down:
         return satir < FisSatir::SatirSayisi && git(satir + 1, sutun);
     case Qt::Key_Left:
-        return satir < FisSatir::SatirSayisi && sutun > 1 && git(satir, sutun - 1);
+        return satir < FisSatir::SatirSayisi && sutun > FisSutun::HesapKod && git(satir, sutun - 1);
     case Qt::Key_Right:
         return sutun < FisSatir::SonSutun && git(satir, sutun + 1);
     default:
@@ -1100,7 +1020,7 @@ bool FIS_K::TE1Tusu(QKeyEvent* olay)
     }
 }
 
-bool FIS_K::EditorTusu(QWidget* editor, QKeyEvent* olay)
+bool FIS_K::EditorTusu(QKeyEvent* olay)
 {
     const int satir = T->Row();
     const int sutun = T->Col();
@@ -1112,7 +1032,7 @@ bool FIS_K::EditorTusu(QWidget* editor, QKeyEvent* olay)
         return true;
     }
     if (olay->key() == Qt::Key_Left) {
-        if (satir < FisSatir::SatirSayisi && sutun > 1) {
+        if (satir < FisSatir::SatirSayisi && sutun > FisSutun::HesapKod) {
             T->setFocus();
             T->HucreSec(satir, sutun - 1);
         }
@@ -1120,59 +1040,74 @@ bool FIS_K::EditorTusu(QWidget* editor, QKeyEvent* olay)
     }
     if (!enter && olay->key() != Qt::Key_Right)
         return false;
+    // The screen's Enter on the code column adds the step to the name.
+    if (sutun == FisSutun::HesapKod && enter)
+        MalzAdGetir();
     T->setFocus();
-    if (editor == HesKod) {
-        // The screen's Enter on the code column adds the step to the name.
-        if (enter)
-            MalzAdGetir();
-        T->HucreSec(satir, 2);
-    } else if (editor == Detay3) {
-        T->HucreSec(satir, 3);
-    }
+    if (sutun == FisSutun::HesapKod)
+        T->HucreSec(satir, FisSutun::MalzAdi);
+    else if (sutun == FisSutun::MalzAdi)
+        T->HucreSec(satir, FisSutun::Ozellik);
     return true;
 }
 
 void FIS_K::MalzAdGetir()
 {
-    const QString kod = HesKod->currentText();
+    const QString kod = KodMetni();
     if (kod.isEmpty())
         return;
     std::optional<QString> ad;
     if (!Dene([&] { ad = FisSatir::MalzAdGetir(Genel(), kod); }) || !ad)
         return;
-    HucreYaz(2, *ad);
-    HucreYaz(1, kod);
+    HucreYaz(FisSutun::MalzAdi, *ad);
+    HucreYaz(FisSutun::HesapKod, kod);
 }
 
-void FIS_K::HesKodSecildi(int sira)
+void FIS_K::ListedenSecildi(int sutun, int sira, const QString& oge)
+{
+    switch (sutun) {
+    case FisSutun::HesapKod:
+        HesKodSecildi(oge);
+        break;
+    case FisSutun::MalzAdi:
+        Detay3Secildi(oge);
+        break;
+    case FisSutun::Unite:
+        UniteAdSecildi(oge);
+        break;
+    case FisSutun::IslemTur:
+        HucreYaz(FisSutun::IslemTur, QString::number(sira + 1));
+        break;
+    }
+}
+
+void FIS_K::HesKodSecildi(const QString& oge)
 {
     std::optional<FisSatir::Sinif> sinif;
-    if (!Dene([&] { sinif = FisSatir::KodlaSinif(Genel(), HesKod->itemText(sira)); }) || !sinif)
+    if (!Dene([&] { sinif = FisSatir::KodlaSinif(Genel(), oge); }) || !sinif)
         return;
-    HucreYaz(1, sinif->HesapKod);
-    HucreYaz(2, sinif->MalzAdi);
-    HucreYaz(13, sinif->KDV1);
-    HucreYaz(4, sinif->Birimi);
+    HucreYaz(FisSutun::HesapKod, sinif->HesapKod);
+    HucreYaz(FisSutun::MalzAdi, sinif->MalzAdi);
+    HucreYaz(FisSutun::KDV, sinif->KDV1);
+    HucreYaz(FisSutun::Birimi, sinif->Birimi);
     T->setFocus();
-    T->HucreSec(T->Row(), 3);
+    T->HucreSec(T->Row(), FisSutun::Ozellik);
 }
 
-void FIS_K::Detay3Secildi(int sira)
+void FIS_K::Detay3Secildi(const QString& ad)
 {
-    const QString ad = Detay3->itemText(sira);
     std::optional<FisSatir::Sinif> sinif;
     if (!Dene([&] { sinif = FisSatir::AdlaSinif(Genel(), ad); }) || !sinif)
         return;
-    HucreYaz(1, sinif->HesapKod);
-    HucreYaz(2, ad);
-    HucreYaz(13, sinif->KDV1);
+    HucreYaz(FisSutun::HesapKod, sinif->HesapKod);
+    HucreYaz(FisSutun::MalzAdi, ad);
+    HucreYaz(FisSutun::KDV, sinif->KDV1);
     T->setFocus();
-    T->HucreSec(T->Row(), 3);
+    T->HucreSec(T->Row(), FisSutun::Ozellik);
 }
 
-void FIS_K::UniteAdSecildi(int sira)
+void FIS_K::UniteAdSecildi(const QString& ad)
 {
-    const QString ad = UniteAd->itemText(sira);
     std::optional<QString> kod;
     if (!Dene([&] { kod = FisSatir::UniteKodu(Genel(), ad); }) || !kod)
         return;
@@ -1190,7 +1125,6 @@ void FIS_K::SatirSil()
     QList<QStringList> satirlar = T->Hucreler();
     FisSatir::SatirSil(satirlar, T->Row());
     T->HucreleriYaz(satirlar);
-    Yaz2();
 }
 
 void FIS_K::AsagiKopyala()
@@ -1229,11 +1163,11 @@ void FIS_K::SinifListesiYenile()
 
 void FIS_K::SinifAl(const QString& hesapKod, const QString& malzAdi, const QString& birimi, const QString& kdv)
 {
-    HucreYaz(1, hesapKod);
-    HucreYaz(2, malzAdi);
-    HucreYaz(4, birimi);
-    HucreYaz(15, kdv);
-    T->HucreSec(T->Row(), 3);
+    HucreYaz(FisSutun::HesapKod, hesapKod);
+    HucreYaz(FisSutun::MalzAdi, malzAdi);
+    HucreYaz(FisSutun::Birimi, birimi);
+    HucreYaz(FisSutun::SinifKDV, kdv);
+    T->HucreSec(T->Row(), FisSutun::Ozellik);
 }
 
 void FIS_K::OdakAl()
@@ -1245,22 +1179,22 @@ void FIS_K::OdakAl()
 void FIS_K::MalzemeListesiAc(bool dugme)
 {
     const int sutun = T->Col();
-    if (dugme && (sutun == 0 || sutun == 2))
+    if (dugme && (sutun == FisSutun::Sira || sutun == FisSutun::MalzAdi))
         return;
     if (!m_malzeme) {
         m_malzeme = new Malzeme_L(Baglam(), this);
         m_malzeme->AliciSec(this);
     }
-    if (sutun == 1) {
+    if (sutun == FisSutun::HesapKod) {
         m_malzeme->Hangi = QStringLiteral("Fis_K");
-        m_malzeme->HesapKod->setText(HesKod->currentText());
-    } else if (sutun == 3) {
+        m_malzeme->HesapKod->setText(KodMetni());
+    } else if (sutun == FisSutun::Ozellik) {
         m_malzeme->Hangi = QStringLiteral("Fis_K");
         m_malzeme->Option3->setChecked(true);
-        if (Hucre(3).isEmpty())
-            m_malzeme->HesapKod->setText(Hucre(1));
+        if (Hucre(FisSutun::Ozellik).isEmpty())
+            m_malzeme->HesapKod->setText(Hucre(FisSutun::HesapKod));
         else
-            m_malzeme->Ozellik->setText(Hucre(3));
+            m_malzeme->Ozellik->setText(Hucre(FisSutun::Ozellik));
     } else if (dugme) {
         // Seen from here a double click must not fill the voucher.
         m_malzeme->Hangi = QStringLiteral("Fis");
@@ -1275,13 +1209,13 @@ void FIS_K::MalzemeAl(const QString& malzAdi, const QString& ozellik, const QStr
                       const QString& birimFiyat, const QString& birimi, const QString& kdv, const QString& gelen,
                       const QString& cikan, const QString& kalan)
 {
-    HucreYaz(2, malzAdi);
-    HucreYaz(3, ozellik);
-    HucreYaz(1, hesapKod);
-    HucreYaz(6, birimFiyat);
-    HucreYaz(4, birimi);
-    HucreYaz(13, kdv);
-    T->HucreSec(T->Row(), 5);
+    HucreYaz(FisSutun::MalzAdi, malzAdi);
+    HucreYaz(FisSutun::Ozellik, ozellik);
+    HucreYaz(FisSutun::HesapKod, hesapKod);
+    HucreYaz(FisSutun::BirimFiyat, birimFiyat);
+    HucreYaz(FisSutun::Birimi, birimi);
+    HucreYaz(FisSutun::KDV, kdv);
+    T->HucreSec(T->Row(), FisSutun::Miktar);
     GelenTop1->setText(gelen);
     CikanTop1->setText(cikan);
     KalanTop1->setText(kalan);
@@ -1294,17 +1228,17 @@ void FIS_K::MalzemeAl(const QString& malzAdi, const QString& ozellik, const QStr
 void FIS_K::Command6Komutu()
 {
     const int sutun = T->Col();
-    const QString kod = Hucre(1);
-    const QString ozellik = Hucre(3);
+    const QString kod = Hucre(FisSutun::HesapKod);
+    const QString ozellik = Hucre(FisSutun::Ozellik);
     if (kod.isEmpty() && ozellik.isEmpty()) {
         Bildir(QStringLiteral("Seçili Hesap Kod veya Özellik-Marka Yok.  Belirtiniz. "));
         return;
     }
     FisSatir::HareketListesi liste;
     bool doldu = false;
-    if (sutun == 3 && !ozellik.isEmpty())
+    if (sutun == FisSutun::Ozellik && !ozellik.isEmpty())
         doldu = Dene([&] { liste = FisSatir::OzellikHareketListe(Ayniyat(), ozellik); });
-    else if ((sutun == 1 || sutun == 2) && !kod.isEmpty())
+    else if ((sutun == FisSutun::HesapKod || sutun == FisSutun::MalzAdi) && !kod.isEmpty())
         doldu = Dene([&] { liste = FisSatir::HesapHareketListe(Ayniyat(), kod); });
     if (doldu)
         HareketGoster(liste);
@@ -1338,7 +1272,8 @@ void FIS_K::L3Kapat()
 void FIS_K::HareketYazdir()
 {
     Yazdir([this](Yazici& p) {
-        FisSatir::HareketYazdir(p, Hucre(1), Hucre(2), Tarih->text(), L3->Anlik(), TopEleGecen->text());
+        FisSatir::HareketYazdir(p, Hucre(FisSutun::HesapKod), Hucre(FisSutun::MalzAdi), Tarih->text(), L3->Anlik(),
+                                TopEleGecen->text());
     });
 }
 

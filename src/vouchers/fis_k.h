@@ -12,7 +12,6 @@
 #include <functional>
 
 class FIS_L;
-class FisIzgarasi;
 class ListeIzgarasi;
 class Malzeme_L;
 class QComboBox;
@@ -22,13 +21,15 @@ class QLineEdit;
 class QPushButton;
 class QToolButton;
 class SayfaEkrani;
+class SatirIzgarasi;
 class SinifTani;
-class TarihSecici;
+class QStringListModel;
 struct FisYazimi;
 
 // "Fiş Giriş-Düzeltme": the voucher typed from the keyboard, a head of boxes
-// over a grid of lines. The grid never edits: a box, a date editor or a
-// combo stands over its current cell and sends its value back.
+// over a grid of lines. A line box, a date editor or a combo stands over the
+// grid's current cell and sends its value back; the keys between them are
+// the screen's.
 class FIS_K : public KartEkrani, public SinifAlici, public MalzemeAlici
 {
     Q_OBJECT
@@ -37,8 +38,8 @@ public:
     explicit FIS_K(const CalismaBaglami& baglam, QWidget* parent = nullptr);
 
     // The menu's mode values by control name: "ilk1" ("1" proposes a number
-    // at the next activation), "FCins", "Hangi", "Label2", "IslemTur", and
-    // "CikisGizle" (true hides what an issue voucher lacks, for good).
+    // at the next activation), "FCins", "Hangi", "Label2", and "CikisGizle"
+    // (true hides what an issue voucher lacks, for good).
     void KipAyarla(const QVariantMap& kip);
 
     void Kaydet();
@@ -101,11 +102,14 @@ private:
     QString Hucre(int sutun) const;
     void HucreYaz(int sutun, const QString& metin);
     void HucreDegisti(int satir, int sutun);
-    // Puts the editor of the current column over the cell with its text.
-    void Yaz2();
-    void EditorYerlestir();
-    QWidget* SutunEditoru(int sutun) const;
-    void EditorOdak(int sutun);
+    // The line box when it stands over the current cell.
+    QLineEdit* TE1() const;
+    // The code as its combo shows it, over the code column; else the cell's.
+    QString KodMetni() const;
+    // Gives the focus to the editor over the current cell.
+    void EditorOdak();
+    // Refills a combo column's list; the text typed in its combo stays.
+    void ListeDoldur(QStringListModel* liste, const QStringList& ogeler);
     // Moves the current cell; a row past the grid's last is refused with a
     // message.
     bool SatirGit(int satir, int sutun);
@@ -114,15 +118,18 @@ private:
     bool FisNoTusu(QKeyEvent* olay);
     bool IzgaraTusu(QKeyEvent* olay);
     void IzgaraEnter();
+    // The date editor and its cell take today's date.
+    void BugunYaz();
     bool TE1Tusu(QKeyEvent* olay);
-    bool EditorTusu(QWidget* editor, QKeyEvent* olay);
+    bool EditorTusu(QKeyEvent* olay);
     void EscTusu(QObject* nesne);
     void TusuGonder(QWidget* hedef, QKeyEvent* olay);
 
     void MalzAdGetir();
-    void HesKodSecildi(int sira);
-    void Detay3Secildi(int sira);
-    void UniteAdSecildi(int sira);
+    void ListedenSecildi(int sutun, int sira, const QString& oge);
+    void HesKodSecildi(const QString& oge);
+    void Detay3Secildi(const QString& ad);
+    void UniteAdSecildi(const QString& ad);
 
     void SatirSil();
     void AsagiKopyala();
@@ -169,13 +176,12 @@ private:
     QPushButton* Command7;
     QLabel* Label11;
     QLabel* Label15;
-    FisIzgarasi* T;
-    QLineEdit* TE1;
-    QComboBox* HesKod;
-    QComboBox* Detay3;
-    QComboBox* UniteAd;
-    QComboBox* IslemTur;
-    TarihSecici* TDate;
+    // The lists of the combo columns.
+    QStringListModel* m_hesKodlari;
+    QStringListModel* m_sinifListesi;
+    QStringListModel* m_uniteListesi;
+    QStringListModel* m_islemTurleri;
+    SatirIzgarasi* T;
     ListeIzgarasi* L3;
     QLabel* Label13;
     QLabel* Label19;

@@ -1,6 +1,6 @@
 #include "fis_l.h"
 
-#include "fis_izgara.h"
+#include "tarih_secici.h"
 #include "liste_izgarasi.h"
 #include "saat.h"
 #include "veritabani.h"

@@ -6,8 +6,6 @@
 #include "veritabani.h"
 #include "yazici.h"
 
-#include <QLocale>
-
 namespace {
 
 // The distinct non-empty values of a sorted one-column query: a value equal
@@ -41,49 +39,48 @@ FisSatir::HareketListesi hareketler(Veritabani& vt, const QString& sql, const QS
 
 }
 
-QStringList FisSatir::Basliklar()
+QList<IzgaraSutunu> FisSatir::Sutunlar()
 {
-    return {QStringLiteral("Sıra"),        QStringLiteral(" 3.Detay Kod"),   QStringLiteral("Malzeme Sınıfı"),
-            QStringLiteral("Özellik-Marka"), QStringLiteral("Birimi"),       QStringLiteral("Miktarı"),
-            QStringLiteral("BirimFiyat"),  QStringLiteral("FaturaTarih"),    QStringLiteral("Ünite"),
-            QStringLiteral("İşlem"),       QStringLiteral("ÇıkanMiktar"),    QStringLiteral("Kime Verildiği"),
-            QStringLiteral("AmbarNo"),     QStringLiteral("KDV"),            QStringLiteral("Ö.Kod"),
-            QString(),                     QString()};
-}
-
-QList<int> FisSatir::Genislikler()
-{
-    return {4, 1850, 2500, 3400, 910, 1000, 1220, 1300, 660, 660, 1000, 2300, 630, 630, 20, 700, 20};
-}
-
-QString FisSatir::Ipucu(int sutun)
-{
-    static const QStringList ipuclari = {
-        QString(60, u' '),
-        QStringLiteral(" Açılır Liste den Hesap Kod(3.Detay Kod) seç veya Yaz ve Enter.  Malzeme Sınıf Listesini F10 "
-                       "ile Ekrana getirip, seçebilirsiniz."),
-        QStringLiteral(" Açılır Liste den Malzeme Sınıf Adını seç. "),
-        QStringLiteral(" Malzeme Marka-Özelliğini Yazınız. ilk Harfi Belirtip F10 ile Süzme Yapabilirsiniz."),
-        QStringLiteral(" Ölçü Birimi (Adet, Kg, Metre, Litre, Top vb.) Yazınız.  "),
-        QStringLiteral(" Malzeme Miktarı-Adetini Yazınız .                                      "),
-        QStringLiteral(" Birim Fiyatı Yazınız.(Bir Adetinin Fiyatını)"),
-        QStringLiteral(" Fatura-Tutanak-Belge-Makbuz-Hibe-TeslimEvrakı  vs. Tarihini Yazınız.  "),
-        QStringLiteral(" Malzemenin Verildiği Üniteyi Seçin veya ÜniteKod Yazınız. Malzeme Ambarda kalacaksa Ünite "
-                       "Kod yazmayınız.  "),
-        QStringLiteral(" İşlem Türünü Seçiniz. F4 ile açılır listeden seçebilirsiniz."),
-        QStringLiteral(" Birime(veya Kişiye) verilen Çıkış Miktarını Yazınız.  "),
-        QStringLiteral(" Malzemeyi Kurum içinde Teslim Alan veya Kullanacak olanı Yazınız.  "),
-        QStringLiteral(" Ambar No Yazınız.(Tek ambar kullanıyorsanız Boş bırakılabilir). "),
+    using enum EditorTuru;
+    const QString kutu = QStringLiteral("TE1");
+    return {
+        {QStringLiteral("Sıra"), 4, Metin, kutu, QString(60, u' ')},
+        {QStringLiteral(" 3.Detay Kod"), 1850, Liste, QStringLiteral("HesKod"),
+         QStringLiteral(" Açılır Liste den Hesap Kod(3.Detay Kod) seç veya Yaz ve Enter.  Malzeme Sınıf Listesini F10 "
+                        "ile Ekrana getirip, seçebilirsiniz.")},
+        {QStringLiteral("Malzeme Sınıfı"), 2500, Liste, QStringLiteral("Detay3"),
+         QStringLiteral(" Açılır Liste den Malzeme Sınıf Adını seç. ")},
+        {QStringLiteral("Özellik-Marka"), 3400, Metin, kutu,
+         QStringLiteral(" Malzeme Marka-Özelliğini Yazınız. ilk Harfi Belirtip F10 ile Süzme Yapabilirsiniz.")},
+        {QStringLiteral("Birimi"), 910, Metin, kutu,
+         QStringLiteral(" Ölçü Birimi (Adet, Kg, Metre, Litre, Top vb.) Yazınız.  ")},
+        {QStringLiteral("Miktarı"), 1000, Metin, kutu,
+         QStringLiteral(" Malzeme Miktarı-Adetini Yazınız .                                      ")},
+        {QStringLiteral("BirimFiyat"), 1220, Metin, kutu,
+         QStringLiteral(" Birim Fiyatı Yazınız.(Bir Adetinin Fiyatını)")},
+        {QStringLiteral("FaturaTarih"), 1300, Tarih, QStringLiteral("TDate"),
+         QStringLiteral(" Fatura-Tutanak-Belge-Makbuz-Hibe-TeslimEvrakı  vs. Tarihini Yazınız.  ")},
+        {QStringLiteral("Ünite"), 660, Liste, QStringLiteral("UniteAd"),
+         QStringLiteral(" Malzemenin Verildiği Üniteyi Seçin veya ÜniteKod Yazınız. Malzeme Ambarda kalacaksa Ünite "
+                        "Kod yazmayınız.  ")},
+        {QStringLiteral("İşlem"), 660, Liste, QStringLiteral("IslemTur"),
+         QStringLiteral(" İşlem Türünü Seçiniz. F4 ile açılır listeden seçebilirsiniz.")},
+        {QStringLiteral("ÇıkanMiktar"), 1000, Metin, kutu,
+         QStringLiteral(" Birime(veya Kişiye) verilen Çıkış Miktarını Yazınız.  ")},
+        {QStringLiteral("Kime Verildiği"), 2300, Metin, kutu,
+         QStringLiteral(" Malzemeyi Kurum içinde Teslim Alan veya Kullanacak olanı Yazınız.  ")},
+        {QStringLiteral("AmbarNo"), 630, Metin, kutu,
+         QStringLiteral(" Ambar No Yazınız.(Tek ambar kullanıyorsanız Boş bırakılabilir). ")},
         // Speaks of the special code though the column holds the tax rate.
-        QStringLiteral(" Döküm aşmasında Filitre(Süzgeç) olabilecek Kod Yazınız.(Boş bırakılabilir). "),
+        {QStringLiteral("KDV"), 630, Metin, kutu,
+         QStringLiteral(" Döküm aşmasında Filitre(Süzgeç) olabilecek Kod Yazınız.(Boş bırakılabilir). ")},
+        {QStringLiteral("Ö.Kod"), 20, Metin, kutu, QString()},
+        {QString(), 700, Metin, kutu, QString()},
+        {QString(), 20, Metin, kutu, QString()},
     };
-    return ipuclari.value(sutun);
 }
 
-QString FisSatir::BuyukHarf(const QString& metin)
-{
-    return QLocale(QLocale::Turkish).toUpper(metin);
-}
+FisModeli::FisModeli(QObject* ebeveyn) : IzgaraModeli(FisSatir::SatirSayisi, FisSatir::Sutunlar(), ebeveyn) {}
 
 FisSatir::EnterSonucu FisSatir::GridEnter(Hucre hucre, const QString& birimFiyat)
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fis_sutun.h"
+#include "izgara_modeli.h"
 
 #include <QList>
 #include <QString>
@@ -22,14 +23,9 @@ inline constexpr int SatirSayisi = 25;
 // The last column that Enter serves.
 inline constexpr int SonSutun = FisSutun::KDV;
 
-// The captions and widths (twips) the grid is set up with.
-QStringList Basliklar();
-QList<int> Genislikler();
-// The hint of a column, shown while it is current.
-QString Ipucu(int sutun);
-
-// Typed text lands in the grid upper case, by the Turkish rules (i to İ).
-QString BuyukHarf(const QString& metin);
+// The grid's columns as it is set up: caption, width, editor and hint, in
+// the order of FisSutun.
+QList<IzgaraSutunu> Sutunlar();
 
 struct Hucre
 {
@@ -107,3 +103,12 @@ void HareketYazdir(Yazici& p, const QString& hesapKod, const QString& malzAdi, c
                    const Izgara& liste, const QString& toplam);
 
 }
+
+// The cells of the voucher screen's grid: 25 lines of the columns above.
+class FisModeli : public IzgaraModeli
+{
+    Q_OBJECT
+
+public:
+    explicit FisModeli(QObject* ebeveyn = nullptr);
+};

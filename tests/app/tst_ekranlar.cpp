@@ -3,6 +3,7 @@
 #include "menu.h"
 #include "saat.h"
 #include "sabit.h"
+#include "satir_izgarasi.h"
 #include "sinif_tani.h"
 #include "veritabani.h"
 #include "veri_klasoru.h"
@@ -116,6 +117,7 @@ private slots:
         QVERIFY(!kabul->isVisible());
 
         // A class defined on the class screen can be chosen once it closes.
+        fis->findChild<SatirIzgarasi*>(QStringLiteral("T"))->HucreSec(1, FisSutun::HesapKod);
         auto* hesKod = fis->findChild<QComboBox*>(QStringLiteral("HesKod"));
         const int once = hesKod->count();
         {

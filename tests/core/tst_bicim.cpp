@@ -124,6 +124,8 @@ private slots:
         if (sayi)
             QTEST(*sonuc, "beklenen");
     }
+
+    void buyukHarf() { QCOMPARE(BuyukHarf(QStringLiteral("iğne ılık çay")), QStringLiteral("İĞNE ILIK ÇAY")); }
 };
 
 QTEST_GUILESS_MAIN(TstBicim)

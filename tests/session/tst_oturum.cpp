@@ -281,7 +281,6 @@ private slots:
         QCOMPARE(acilanlar[0].second.value(QStringLiteral("FCins")).toString(), QStringLiteral("G"));
         QCOMPARE(acilanlar[0].second.value(QStringLiteral("Hangi")).toString(), QStringLiteral("G"));
         QCOMPARE(acilanlar[1].second.value(QStringLiteral("FCins")).toString(), QStringLiteral("C"));
-        QCOMPARE(acilanlar[1].second.value(QStringLiteral("IslemTur")).toString(), QStringLiteral("10"));
         QVERIFY(acilanlar[1].second.value(QStringLiteral("CikisGizle")).toBool());
         // The last kind stays: TF2 writes ilk1 alone.
         QCOMPARE(acilanlar[2].second, (QVariantMap{{QStringLiteral("ilk1"), QStringLiteral("1")}}));

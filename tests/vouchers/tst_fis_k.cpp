@@ -1,7 +1,7 @@
 #include "gecici_veri.h"
 #include "etkinlestir.h"
 #include "cikti.h"
-#include "fis_izgara.h"
+#include "satir_izgarasi.h"
 #include "fis_k.h"
 #include "fis_yaz.h"
 #include "grid_yazdir.h"
@@ -29,6 +29,7 @@
 #include <variant>
 
 using namespace Qt::StringLiterals;
+using namespace FisSutun;
 
 class TstFisK : public QObject, protected GeciciVeri
 {
@@ -41,8 +42,7 @@ class TstFisK : public QObject, protected GeciciVeri
     static QVariantMap giris() { return {{"ilk1", "1"}, {"FCins", "G"}, {"Hangi", "G"}}; }
     static QVariantMap cikis()
     {
-        return {{"Label2", "Ambardan Çıkış"}, {"ilk1", "1"},       {"FCins", "C"},
-                {"Hangi", "C"},               {"IslemTur", "10"}, {"CikisGizle", true}};
+        return {{"Label2", "Ambardan Çıkış"}, {"ilk1", "1"}, {"FCins", "C"}, {"Hangi", "C"}, {"CikisGizle", true}};
     }
 
     void calistir(Dosya dosya, const QString& sql, const QVariantList& degerler = {})
@@ -96,7 +96,7 @@ class TstFisK : public QObject, protected GeciciVeri
     {
         return m_ekran->findChild<T*>(QString::fromLatin1(ad));
     }
-    FisIzgarasi* izgara() const { return kontrol<FisIzgarasi>("T"); }
+    SatirIzgarasi* izgara() const { return kontrol<SatirIzgarasi>("T"); }
     QString hucre(int satir, int sutun) const { return izgara()->TextMatrix(satir, sutun); }
     QStringList hucreler(int satir, std::initializer_list<int> sutunlar) const
     {
@@ -205,30 +205,30 @@ private slots:
         // Line 1: the class by its code, the description typed in lower case.
         bas({Qt::Key_Right, u"150 01 01 001"_s}, u"HesKod"_s);
         bas({Qt::Key_Return}, u"T"_s);
-        QCOMPARE(izgara()->Col(), 2);
-        QCOMPARE(hucreler(1, {1, 2}), QStringList({u"150 01 01 001"_s, u"A4 KAĞIT"_s}));
+        QCOMPARE(izgara()->Col(), int(MalzAdi));
+        QCOMPARE(hucreler(1, {HesapKod, MalzAdi}), QStringList({u"150 01 01 001"_s, u"A4 KAĞIT"_s}));
         bas({Qt::Key_Return}, u"Detay3"_s);
         tus(Qt::Key_Return);
-        QCOMPARE(izgara()->Col(), 3);
-        QCOMPARE(hucre(1, 4), QString());
+        QCOMPARE(izgara()->Col(), int(Ozellik));
+        QCOMPARE(hucre(1, Birimi), QString());
         bas({u"80 gr beyaz, ılık"_s}, u"TE1"_s);
-        QCOMPARE(hucre(1, 3), u"80 GR BEYAZ, ILIK"_s);
+        QCOMPARE(hucre(1, Ozellik), u"80 GR BEYAZ, ILIK"_s);
         tus(Qt::Key_Return);
-        QCOMPARE(izgara()->Col(), 4);
-        QCOMPARE(hucre(1, 4), u"ADET"_s);
+        QCOMPARE(izgara()->Col(), int(Birimi));
+        QCOMPARE(hucre(1, Birimi), u"ADET"_s);
         bas({Qt::Key_Right, u"10"_s, Qt::Key_Return, u"125.50"_s, Qt::Key_Return});
-        QCOMPARE(izgara()->Col(), 7);
+        QCOMPARE(izgara()->Col(), int(BelgeTarih));
         // Any key on the date column gives today's date in the editor.
         bas({u"x"_s}, u"TDate"_s);
-        QCOMPARE(hucre(1, 7), u"14.03.2026"_s);
+        QCOMPARE(hucre(1, BelgeTarih), u"14.03.2026"_s);
         yaz(u"05"_s);
-        QCOMPARE(hucre(1, 7), u"05.03.2026"_s);
+        QCOMPARE(hucre(1, BelgeTarih), u"05.03.2026"_s);
         bas({Qt::Key_Return}, u"T"_s);
         bas({Qt::Key_Right, u"3"_s}, u"UniteAd"_s);
-        QCOMPARE(hucre(1, 8), u"3"_s);
+        QCOMPARE(hucre(1, Unite), u"3"_s);
         bas({Qt::Key_Right, Qt::Key_Right, u"9"_s}, u"IslemTur"_s);
         listedenSec(0);
-        QCOMPARE(hucre(1, 9), u"1"_s);
+        QCOMPARE(hucre(1, IslemTur), u"1"_s);
         bas({Qt::Key_Right, Qt::Key_Right, u"2"_s, Qt::Key_Return, u"ayşe demir"_s, Qt::Key_Return});
 
         // Line 2: the class picked by its name.
@@ -236,8 +236,8 @@ private slots:
         tus(Qt::Key_Left, Qt::ControlModifier);
         bas({Qt::Key_Return}, u"Detay3"_s);
         listedenSec(1);
-        QCOMPARE(hucreler(2, {1, 2, 13}), QStringList({u"255 01 01 001"_s, u"Bilgisayar"_s, u"20"_s}));
-        QCOMPARE(izgara()->Col(), 3);
+        QCOMPARE(hucreler(2, {HesapKod, MalzAdi, KDV}), QStringList({u"255 01 01 001"_s, u"Bilgisayar"_s, u"20"_s}));
+        QCOMPARE(izgara()->Col(), int(Ozellik));
         QCOMPARE(odak(), u"T"_s);
 
         tus(Qt::Key_F1);
@@ -252,7 +252,7 @@ private slots:
                  {"IslemTur", "1"}, {"Cikan", "2"}, {"KimeVerildigi", "AYŞE DEMİR"}});
         // The second line never reached column 4; its date is today's.
         alanlar(u"FIS"_s, u"where Satir = 2"_s, {{"Birimi", ""}, {"KDV", "20"}});
-        QCOMPARE(hucre(2, 7), u"14.03.2026"_s);
+        QCOMPARE(hucre(2, BelgeTarih), u"14.03.2026"_s);
     }
 
     void getirTemizleAdimSil()
@@ -262,7 +262,7 @@ private slots:
         QCOMPARE(kontrol("FisNo")->text(), u"2"_s);
         bas({Qt::Key_Backspace, u"1"_s, Qt::Key_Return});
         QCOMPARE(kontrol<QComboBox>("TeslimAlan")->currentText(), u"Mehmet Kaya"_s);
-        QCOMPARE(hucre(2, 3), u"MASAÜSTÜ"_s);
+        QCOMPARE(hucre(2, Ozellik), u"MASAÜSTÜ"_s);
         QCOMPARE(kontrol<QLabel>("Label19")->text(), u"SatınAlma"_s);
 
         // Page Up on 1 does nothing; past the last the screen empties and
@@ -270,17 +270,17 @@ private slots:
         kontrol("FisNo")->setFocus();
         tus(Qt::Key_PageUp);
         QCOMPARE(kontrol("FisNo")->text(), u"1"_s);
-        QCOMPARE(hucre(1, 1), u"150 01 01 001"_s);
+        QCOMPARE(hucre(1, HesapKod), u"150 01 01 001"_s);
         tus(Qt::Key_PageDown);
         QCOMPARE(kontrol("FisNo")->text(), u"2"_s);
-        QCOMPARE(hucre(1, 1), QString());
+        QCOMPARE(hucre(1, HesapKod), QString());
         QCOMPARE(kontrol<QComboBox>("TeslimAlan")->currentText(), QString());
         tus(Qt::Key_Home);
-        QCOMPARE(hucre(1, 3), u"MAVİ"_s);
+        QCOMPARE(hucre(1, Ozellik), u"MAVİ"_s);
 
         tus(Qt::Key_F3);
         QCOMPARE(kontrol("FisNo")->text(), u"2"_s);
-        QCOMPARE(hucre(1, 1), QString());
+        QCOMPARE(hucre(1, HesapKod), QString());
         QCOMPARE(odak(), u"FisNo"_s);
 
         kontrol("FisNo")->setText(u"1"_s);
@@ -306,11 +306,11 @@ private slots:
         QCOMPARE(yanitla(u"Tamam"_s, [] { tus(Qt::Key_Return); }), u"Bir Fiş No girmek zorundasınız.."_s);
         QCOMPARE(odak(), u"FisNo"_s);
         yaz(u"4"_s);
-        hucreyeGit(1, 3, u"x"_s);
+        hucreyeGit(1, Ozellik, u"x"_s);
         // No code on the first line: nothing is saved and nothing said.
         tus(Qt::Key_F1);
         QCOMPARE(say(u"FIS_B"_s), 0);
-        hucreyeGit(1, 1, u"150"_s);
+        hucreyeGit(1, HesapKod, u"150"_s);
         QVERIFY(yanitla(u"Hayır"_s, [] { tus(Qt::Key_F1); })
                     .startsWith(u" Bilgisayar Tarihi, Çalışılan Aydan Farklı."_s));
         QCOMPARE(say(u"FIS_B"_s), 0);
@@ -325,9 +325,9 @@ private slots:
         QTest::addColumn<int>("yeniSutun");
         QTest::addColumn<QString>("editor");
         QTest::addColumn<QString>("tarih");
-        QTest::newRow("3 → 5") << 3 << "" << 5 << "TE1" << "";
-        QTest::newRow("0 → 2") << 0 << "" << 2 << "Detay3" << "";
-        QTest::newRow("price 5") << 6 << "5" << 8 << "UniteAd" << "İlçe.Verilen";
+        QTest::newRow("3 → 5") << int(Ozellik) << "" << int(Miktar) << "TE1" << "";
+        QTest::newRow("0 → 2") << int(Sira) << "" << int(MalzAdi) << "Detay3" << "";
+        QTest::newRow("price 5") << int(BirimFiyat) << "5" << int(Unite) << "UniteAd" << "İlçe.Verilen";
     }
     void gridEnter()
     {
@@ -337,36 +337,37 @@ private slots:
         QFETCH(QString, editor);
         QFETCH(QString, tarih);
         ac();
-        izgara()->HucreYaz(2, 6, fiyat);
+        izgara()->HucreYaz(2, BirimFiyat, fiyat);
         hucreyeGit(2, sutun);
         tus(Qt::Key_Return);
         QCOMPARE(izgara()->Row(), 2);
         QCOMPARE(izgara()->Col(), yeniSutun);
         QCOMPARE(odak(), editor);
-        QCOMPARE(hucre(2, 7), tarih);
+        QCOMPARE(hucre(2, BelgeTarih), tarih);
         const QRect alan = izgara()->HucreAlani();
         const QPoint orta = izgara()->viewport()->mapTo(m_ekran, alan.center());
-        QVERIFY(QApplication::focusWidget()->geometry().contains(orta));
+        const QWidget* odakta = QApplication::focusWidget();
+        QVERIFY(QRect(odakta->mapTo(m_ekran, QPoint()), odakta->size()).contains(orta));
     }
 
     void satirKutusuTuslari()
     {
         ac();
-        hucreyeGit(3, 5);
+        hucreyeGit(3, Miktar);
         bas({u"7"_s, Qt::Key_Up});
         QCOMPARE(izgara()->Row(), 2);
         QCOMPARE(odak(), u"T"_s);
         bas({u"a"_s, Qt::Key_Right});
-        QCOMPARE(izgara()->Col(), 6);
+        QCOMPARE(izgara()->Col(), int(BirimFiyat));
         bas({u"b"_s, Qt::Key_Left, Qt::Key_Down});
-        QCOMPARE(hucreNo(), QPoint(3, 5));
-        QCOMPARE(hucre(3, 5), u"7"_s);
-        QCOMPARE(hucreler(2, {5, 6}), QStringList({u"A"_s, u"B"_s}));
+        QCOMPARE(hucreNo(), QPoint(3, Miktar));
+        QCOMPARE(hucre(3, Miktar), u"7"_s);
+        QCOMPARE(hucreler(2, {Miktar, BirimFiyat}), QStringList({u"A"_s, u"B"_s}));
         // A key on a filled cell starts it afresh; Esc blanks it.
         yaz(u"12"_s);
-        QCOMPARE(hucre(3, 5), u"12"_s);
+        QCOMPARE(hucre(3, Miktar), u"12"_s);
         tus(Qt::Key_Escape);
-        QCOMPARE(hucre(3, 5), QString());
+        QCOMPARE(hucre(3, Miktar), QString());
         QCOMPARE(odak(), u"T"_s);
         bas({Qt::Key_Escape}, u"FisNo"_s);
         tus(Qt::Key_Escape);
@@ -376,39 +377,48 @@ private slots:
     // Copying down and taking a row out are the logic's; here their keys.
     void kodListesindenSecim()
     {
+        calistir(Dosya::Genel, u"insert into URUN_K (HesapKod, MalzAdi) values (?, ?)"_s,
+                 {"150 01 01 002", "Fotokopi Kağıdı Beyaz 80 Gram A3 Boy Kutulu Ambalaj"});
         ac();
-        hucreyeGit(1, 1, u"1"_s);
+        hucreyeGit(1, HesapKod, u"1"_s);
+        // The drop-down is wide enough to read the longest item whole.
+        auto* kutu = kontrol<QComboBox>("HesKod");
+        tus(Qt::Key_F4);
+        QTRY_VERIFY(kutu->view()->isVisible());
+        QVERIFY(kutu->view()->viewport()->width()
+                >= kutu->view()->fontMetrics().horizontalAdvance(kutu->itemText(kutu->count() - 1)));
+        kutu->hidePopup();
         listedenSec(0);
         // The list is sorted by name: A4 Kağıt first.
-        QCOMPARE(hucreler(1, {1, 4, 13}), QStringList({u"150 01 01 001"_s, u"PAKET"_s, u"18"_s}));
-        QCOMPARE(izgara()->Col(), 3);
+        QCOMPARE(hucreler(1, {HesapKod, Birimi, KDV}), QStringList({u"150 01 01 001"_s, u"PAKET"_s, u"18"_s}));
+        QCOMPARE(izgara()->Col(), int(Ozellik));
 
-        hucreyeGit(1, 8, u"K"_s);
+        hucreyeGit(1, Unite, u"K"_s);
         listedenSec(0);
-        QCOMPARE(hucre(1, 8), u"5"_s);
+        QCOMPARE(hucre(1, Unite), u"5"_s);
         QCOMPARE(kontrol<QLabel>("Label20")->text(), u"Kütüphane"_s);
 
-        hucreyeGit(1, 1);
+        hucreyeGit(1, HesapKod);
         tus(Qt::Key_Insert);
         QCOMPARE(izgara()->Row(), 2);
-        QCOMPARE(hucre(2, 13), u"18"_s);
-        hucreyeGit(2, 3);
+        QCOMPARE(hucre(2, KDV), u"18"_s);
+        hucreyeGit(2, Ozellik);
         tus(Qt::Key_Insert);
         QCOMPARE(izgara()->Row(), 2);
 
-        hucreyeGit(1, 3);
+        hucreyeGit(1, Ozellik);
         tus(Qt::Key_F6);
-        QCOMPARE(hucreler(1, {1, 8}), QStringList({u"150 01 01 001"_s, QString()}));
+        QCOMPARE(hucreler(1, {HesapKod, Unite}), QStringList({u"150 01 01 001"_s, QString()}));
         QCOMPARE(izgara()->model()->rowCount(), 25);
     }
 
     void yirmiBesSatir()
     {
         ac();
-        hucreyeGit(25, 8, u"3"_s);
+        hucreyeGit(25, Unite, u"3"_s);
         QCOMPARE(yanitla(u"Tamam"_s, [] { tus(Qt::Key_Down); }), u"Bir fişe en çok 25 satır yazılabilir."_s);
         QCOMPARE(izgara()->Row(), 25);
-        hucreyeGit(25, 14);
+        hucreyeGit(25, OzelKod);
         {
             ModalYanit tamam(u"Tamam"_s);
             yaz(u"a"_s);
@@ -416,7 +426,7 @@ private slots:
         }
         etkinlestir();
         QCOMPARE(izgara()->Row(), 25);
-        QCOMPARE(hucre(25, 14), QString());
+        QCOMPARE(hucre(25, OzelKod), QString());
     }
 
     // Which lines count is the logic's; here F9 by code, Shift+F9 by
@@ -431,10 +441,10 @@ private slots:
         auto* L3 = kontrol<ListeIzgarasi>("L3");
         QVERIFY(!L3->isVisible());
 
-        izgara()->HucreYaz(1, 1, u"255 01 01 001"_s);
-        izgara()->HucreYaz(1, 2, u"BİLGİSAYAR"_s);
-        izgara()->HucreYaz(1, 3, u"MAVİ"_s);
-        hucreyeGit(1, 1);
+        izgara()->HucreYaz(1, HesapKod, u"255 01 01 001"_s);
+        izgara()->HucreYaz(1, MalzAdi, u"BİLGİSAYAR"_s);
+        izgara()->HucreYaz(1, Ozellik, u"MAVİ"_s);
+        hucreyeGit(1, HesapKod);
         tus(Qt::Key_F9);
         QVERIFY(L3->isVisible());
         QCOMPARE(odak(), u"L3"_s);
@@ -446,7 +456,7 @@ private slots:
         bas({Qt::Key_Right, Qt::Key_Right});
         tus(Qt::Key_F9, Qt::ShiftModifier);
         QCOMPARE(L3->Rows(), 3);
-        QCOMPARE(L3->TextMatrix(0, 2), u"FişNo"_s);
+        QCOMPARE(L3->TextMatrix(0, MalzAdi), u"FişNo"_s);
         QCOMPARE(metinler({"Gelen", "Cikan", "Kalan"}), QStringList({u"12"_s, u"4"_s, u"8"_s}));
         QVERIFY(!kontrol<QPushButton>("Command6")->isVisible());
 
@@ -465,17 +475,17 @@ private slots:
         QCOMPARE(kontrol<QLabel>("Label2")->text(), u"Ambardan Çıkış"_s);
         for (const char* ad : {"KabulSayi", "KabulTarih", "Label16", "Label7", "Label23", "NeredenGeldigi"})
             QVERIFY2(!kontrol<QWidget>(ad)->isVisible(), ad);
-        QCOMPARE(izgara()->TextMatrix(0, 5), QString());
-        QCOMPARE(izgara()->TextMatrix(0, 7), u"BelgeTarih "_s);
-        QVERIFY(izgara()->columnWidth(5) < izgara()->columnWidth(4) / 5);
+        QCOMPARE(izgara()->TextMatrix(0, Miktar), QString());
+        QCOMPARE(izgara()->TextMatrix(0, BelgeTarih), u"BelgeTarih "_s);
+        QVERIFY(izgara()->columnWidth(Miktar) < izgara()->columnWidth(Birimi) / 5);
 
         kontrol("Tarih")->setFocus();
         bas({Qt::Key_Return}, u"TeslimAlan"_s);
         bas({Qt::Key_Return, Qt::Key_Return, Qt::Key_Return}, u"T"_s);
-        hucreyeGit(1, 1);
+        hucreyeGit(1, HesapKod);
         bas({u"150 01 01 001"_s, Qt::Key_Return});
-        hucreyeGit(1, 5, u"6"_s);
-        hucreyeGit(1, 10);
+        hucreyeGit(1, Miktar, u"6"_s);
+        hucreyeGit(1, Cikan);
         bas({u"6"_s, Qt::Key_F1});
         alanlar(u"FIS"_s, u"where FCins = 'C'"_s, {{"FisNo", "1"}, {"Miktar", ""}, {"Cikan", "6"}});
         QCOMPARE(say(u"FIS_B"_s), 2);
@@ -488,7 +498,7 @@ private slots:
     void sinifEkranindanYeniSinif()
     {
         ac();
-        hucreyeGit(2, 5);
+        hucreyeGit(2, Miktar);
         tus(Qt::Key_F8);
         auto* sinif = m_ekran->findChild<SinifTani*>();
         QVERIFY(sinif);
@@ -497,9 +507,13 @@ private slots:
         bas({u"150 01 01 009"_s, Qt::Key_Return}, u"MalzAdi"_s);
         bas({u"Zımba"_s, Qt::Key_Tab, u"KUTU"_s, Qt::Key_Tab, u"18"_s, Qt::Key_F1});
         QTRY_VERIFY(!m_ekran->findChild<SinifTani*>());
-        QCOMPARE(hucreler(2, {1, 2, 4, 15}), QStringList({u"150 01 01 009"_s, u"Zımba"_s, u"KUTU"_s, u"18"_s}));
-        QCOMPARE(izgara()->Col(), 3);
+        QCOMPARE(hucreler(2, {HesapKod, MalzAdi, Birimi, SinifKDV}),
+                 QStringList({u"150 01 01 009"_s, u"Zımba"_s, u"KUTU"_s, u"18"_s}));
+        QCOMPARE(izgara()->Col(), int(Ozellik));
+        // Each combo offers the new class when its column is reached.
+        hucreyeGit(2, HesapKod);
         QVERIFY(kontrol<QComboBox>("HesKod")->findText(u"150 01 01 009 Zımba"_s) >= 0);
+        hucreyeGit(2, MalzAdi);
         QVERIFY(kontrol<QComboBox>("Detay3")->findText(u"Zımba"_s) >= 0);
     }
 
@@ -514,13 +528,13 @@ private slots:
         QCOMPARE(kontrol("Text1")->text().trimmed(), u"0"_s);
 
         // Typed lines count when column 5 or 6 is entered, not before.
-        hucreyeGit(3, 5);
+        hucreyeGit(3, Miktar);
         bas({u"3"_s, Qt::Key_Return});
-        QCOMPARE(izgara()->Col(), 6);
+        QCOMPARE(izgara()->Col(), int(BirimFiyat));
         QCOMPARE(kontrol("Text2")->text(), u"15"_s);
         bas({u"2,5"_s, Qt::Key_Return});
         QCOMPARE(kontrol("Text3")->text(), u"250"_s);
-        hucreyeGit(4, 6);
+        hucreyeGit(4, BirimFiyat);
         QCOMPARE(kontrol("Text3")->text(), u"257,5"_s);
 
         // The page arrows fetch the next voucher with its totals.
@@ -540,12 +554,12 @@ private slots:
     {
         QFETCH(QString, nereden);
         ac();
-        izgara()->HucreYaz(2, 13, u" 8 "_s);
+        izgara()->HucreYaz(2, KDV, u" 8 "_s);
         // Only the price column has the box.
-        hucreyeGit(2, 5);
+        hucreyeGit(2, Miktar);
         tus(Qt::Key_F6, Qt::ControlModifier);
         QVERIFY(!kontrol("KDVOran")->isVisible());
-        hucreyeGit(2, 6);
+        hucreyeGit(2, BirimFiyat);
         bas({u"100"_s}, u"TE1"_s);
         for (int kez = 0; kez < 2; ++kez) {
             if (nereden == u"CmdKDVEkle") {
@@ -570,7 +584,7 @@ private slots:
             QVERIFY(!kontrol("KDVOran")->isVisible() && !kontrol<QLabel>("Label10")->isVisible());
         }
         // Each press adds the VAT again.
-        QCOMPARE(hucreler(2, {6, 13}), QStringList({u"139,24"_s, u"18"_s}));
+        QCOMPARE(hucreler(2, {BirimFiyat, KDV}), QStringList({u"139,24"_s, u"18"_s}));
         QCOMPARE(kontrol("TE1")->text(), u"139,24"_s);
     }
 
@@ -587,9 +601,9 @@ private slots:
         QFETCH(QString, nasil);
         QFETCH(QString, oran);
         ac();
-        izgara()->HucreYaz(1, 6, u"100"_s);
-        izgara()->HucreYaz(1, 13, u"8"_s);
-        hucreyeGit(1, 6);
+        izgara()->HucreYaz(1, BirimFiyat, u"100"_s);
+        izgara()->HucreYaz(1, KDV, u"8"_s);
+        hucreyeGit(1, BirimFiyat);
         tus(Qt::Key_F6, Qt::ControlModifier);
         yaz(u"%18"_s);
         if (nasil == u"odak")
@@ -598,28 +612,28 @@ private slots:
             tus(nasil == u"Esc" ? Qt::Key_Escape : Qt::Key_Return);
         QVERIFY(!kontrol("KDVOran")->isVisible() && !kontrol("lblMahsup")->isVisible());
         QCOMPARE(odak(), nasil == u"odak" ? u"FisNo"_s : u"T"_s);
-        QCOMPARE(hucreler(1, {6, 13}), QStringList({u"100"_s, oran}));
+        QCOMPARE(hucreler(1, {BirimFiyat, KDV}), QStringList({u"100"_s, oran}));
     }
 
     void f2FisYazdirma()
     {
         ac();
         const auto satir = [this](int i, const char* miktar, const char* fiyat, const char* kdv) {
-            izgara()->HucreYaz(i, 1, u"150 01 01 001"_s);
-            izgara()->HucreYaz(i, 5, QString::fromLatin1(miktar));
-            izgara()->HucreYaz(i, 6, QString::fromLatin1(fiyat));
-            izgara()->HucreYaz(i, 13, QString::fromLatin1(kdv));
+            izgara()->HucreYaz(i, HesapKod, u"150 01 01 001"_s);
+            izgara()->HucreYaz(i, Miktar, QString::fromLatin1(miktar));
+            izgara()->HucreYaz(i, BirimFiyat, QString::fromLatin1(fiyat));
+            izgara()->HucreYaz(i, KDV, QString::fromLatin1(kdv));
         };
         satir(1, "10", "5", "");
         satir(2, "2", "100", "20");
         satir(3, "", "7", "");
-        hucreyeGit(1, 3);
+        hucreyeGit(1, Ozellik);
         tus(Qt::Key_F2);
         auto* fisYaz = m_ekran->findChild<FisYaz*>();
         QVERIFY(fisYaz);
         QCOMPARE(fisYaz->KDVTut->text(), u"49"_s);
-        QCOMPARE(hucre(1, 13), u"18"_s);
-        QCOMPARE(hucre(3, 13), QString());
+        QCOMPARE(hucre(1, KDV), u"18"_s);
+        QCOMPARE(hucre(3, KDV), QString());
         QCOMPARE(kontrol("Text3")->text(), u"250"_s);
         QCOMPARE(fisYaz->Goruntu().MetinNerede(300, 7930), u"İkiYüzElli Lira "_s);
         fisYaz->close();
@@ -644,15 +658,15 @@ private slots:
         ac();
         kontrol("FisNo")->setText(u"1"_s);
         tus(Qt::Key_Return);
-        izgara()->HucreYaz(3, 1, u"255 01 01 001"_s);
-        izgara()->HucreYaz(3, 5, u"1"_s);
+        izgara()->HucreYaz(3, HesapKod, u"255 01 01 001"_s);
+        izgara()->HucreYaz(3, Miktar, u"1"_s);
         // The slip names the unit of line 1, wherever the cursor stands.
-        hucreyeGit(2, 3);
+        hucreyeGit(2, Ozellik);
         kontrol<QPushButton>("Zimmet")->click();
         auto* zimmet = m_ekran->findChild<ZimmetYaz*>();
         QVERIFY(zimmet);
         QCOMPARE(zimmet->Goruntu().MetinNerede(2100, 1770), u"Muhasebe"_s);
-        QCOMPARE(hucre(3, 13), u"18"_s);
+        QCOMPARE(hucre(3, KDV), u"18"_s);
 
         etkinlestir();
         tus(Qt::Key_F7);
@@ -675,8 +689,8 @@ private slots:
         // A unit code typed by hand is named once the cursor passes the
         // unit columns.
         etkinlestir();
-        hucreyeGit(1, 8, u"3"_s);
-        hucreyeGit(1, 9);
+        hucreyeGit(1, Unite, u"3"_s);
+        hucreyeGit(1, IslemTur);
         tus(Qt::Key_F7);
         istek = m_ekran->findChild<IstekYaz*>();
         QVERIFY(istek);

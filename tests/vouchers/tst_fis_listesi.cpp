@@ -2,7 +2,8 @@
 #include "modal_yanit.h"
 #include "cikti.h"
 #include "etkinlestir.h"
-#include "fis_izgara.h"
+#include "satir_izgarasi.h"
+#include "tarih_secici.h"
 #include "fis_k.h"
 #include "fis_kayit.h"
 #include "fis_l.h"
@@ -275,8 +276,8 @@ private slots:
         QTRY_VERIFY(!m_liste);
         QCOMPARE(fis->findChild<QLineEdit*>(u"FisNo"_s)->text(), u"7"_s);
         QCOMPARE(fis->findChild<QLineEdit*>(u"Tarih"_s)->text(), u"12.03.2026"_s);
-        auto* satirlar = fis->findChild<FisIzgarasi*>(u"T"_s);
-        QCOMPARE(satirlar->TextMatrix(1, 3), u"BEYAZ"_s);
+        auto* satirlar = fis->findChild<SatirIzgarasi*>(u"T"_s);
+        QCOMPARE(satirlar->TextMatrix(1, FisSutun::Ozellik), u"BEYAZ"_s);
         QVERIFY(!fis->findChild<QLineEdit*>(u"Text3"_s)->text().isEmpty());
 
         // A voucher of another year is named, and the screen keeps its own.
@@ -292,7 +293,7 @@ private slots:
         QTRY_VERIFY(tamam.Goruldu());
         QVERIFY2(tamam.Metin().startsWith(u"30 nolu fiş 2025 yılına ait"_s), qPrintable(tamam.Metin()));
         QCOMPARE(fis->findChild<QLineEdit*>(u"FisNo"_s)->text(), u"7"_s);
-        QCOMPARE(satirlar->TextMatrix(1, 3), u"BEYAZ"_s);
+        QCOMPARE(satirlar->TextMatrix(1, FisSutun::Ozellik), u"BEYAZ"_s);
     }
 };
 

@@ -124,11 +124,6 @@ private slots:
         QCOMPARE(s[24], QStringList(FisSutun::Sayi, QString()));
     }
 
-    void buyukHarf()
-    {
-        QCOMPARE(FisSatir::BuyukHarf(QStringLiteral("iğne ılık çay")), QStringLiteral("İĞNE ILIK ÇAY"));
-    }
-
     void hareketListeleri()
     {
         satir(2, QStringLiteral("150 01 01 001"), QStringLiteral("MAVİ"), QStringLiteral("10"), QString());

@@ -1,7 +1,7 @@
 #include "cikti.h"
 #include "gecici_veri.h"
 #include "etkinlestir.h"
-#include "fis_izgara.h"
+#include "satir_izgarasi.h"
 #include "fis_k.h"
 #include "liste_izgarasi.h"
 #include "malzeme_l.h"
@@ -21,6 +21,7 @@
 #include <memory>
 
 using namespace Qt::StringLiterals;
+using namespace FisSutun;
 
 class TstMalzemeListesi : public QObject, protected GeciciVeri
 {
@@ -68,7 +69,7 @@ class TstMalzemeListesi : public QObject, protected GeciciVeri
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_F10);
         return m_fis->findChild<Malzeme_L*>();
     }
-    FisIzgarasi* izgara() const { return m_fis->findChild<FisIzgarasi*>(u"T"_s); }
+    SatirIzgarasi* izgara() const { return m_fis->findChild<SatirIzgarasi*>(u"T"_s); }
     // The voucher numbers the list gives, in its order.
     QList<int> fisler(const MalzemeListesi::Kosullar& k)
     {
@@ -204,7 +205,7 @@ private slots:
             vt.Calistir(u"insert into URUN_K (HesapKod, MalzAdi, Birimi, KDV1) values (?, ?, ?, ?)"_s,
                         {"150 01 01 001", "Kalem", "ADET", "18"});
         }
-        auto* liste = listeAc({{"FCins", "C"}, {"Hangi", "C"}}, 1, u"150"_s);
+        auto* liste = listeAc({{"FCins", "C"}, {"Hangi", "C"}}, HesapKod, u"150"_s);
         QVERIFY(liste);
         QCOMPARE(liste->Hangi, u"Fis_K"_s);
         QCOMPARE(liste->HesapKod->text(), u"150"_s);
@@ -225,25 +226,26 @@ private slots:
         QTest::keyClick(liste->T, Qt::Key_Return);
 
         QTRY_VERIFY(!m_fis->findChild<Malzeme_L*>());
-        const QList<std::pair<int, QString>> beklenen{{1, "150 01 01 001"}, {2, "Kalem"}, {3, "MAVİ KALEM"},
-                                                      {4, "ADET"},          {6, "12,5"},  {13, "18"}};
+        const QList<std::pair<int, QString>> beklenen{{HesapKod, "150 01 01 001"}, {MalzAdi, "Kalem"},
+                                                      {Ozellik, "MAVİ KALEM"},     {Birimi, "ADET"},
+                                                      {BirimFiyat, "12,5"},        {KDV, "18"}};
         for (const auto& [sutun, metin] : beklenen)
             QCOMPARE(izgara()->TextMatrix(1, sutun), metin);
-        QCOMPARE(izgara()->Col(), 5);
+        QCOMPARE(izgara()->Col(), int(Miktar));
         QCOMPARE(m_fis->findChild<QLineEdit*>(u"KalanTop1"_s)->text(), u"6"_s);
         QVERIFY(m_fis->findChild<QLineEdit*>(u"KalanTop1"_s)->isVisibleTo(m_fis));
     }
 
     void bosListedeCiftTiklama()
     {
-        auto* liste = listeAc({}, 3);
+        auto* liste = listeAc({}, Ozellik);
         QVERIFY(liste);
         QVERIFY(liste->Option3->isChecked());
         QVERIFY(QTest::qWaitForWindowActive(liste));
         QCOMPARE(liste->T->Rows(), 1);
         QTest::mouseDClick(liste->T->viewport(), Qt::LeftButton, {}, QPoint(20, 10));
         QVERIFY(m_fis->findChild<Malzeme_L*>());
-        QCOMPARE(izgara()->Col(), 3);
+        QCOMPARE(izgara()->Col(), int(Ozellik));
         QVERIFY(!m_fis->findChild<QLineEdit*>(u"GelenTop1"_s)->isVisibleTo(m_fis));
     }
 };

@@ -9,10 +9,9 @@
 #include "metin_sec.h"
 #include "liste_izgarasi.h"
 #include "malzeme_l.h"
-#include "saat.h"
+#include "satir_girisi.h"
 #include "satir_izgarasi.h"
 #include "sinif_tani.h"
-#include "tarih_secici.h"
 #include "tek_deger.h"
 #include "veritabani.h"
 #include "zimmet_yaz.h"
@@ -25,7 +24,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QStringListModel>
 #include <QToolButton>
 
@@ -34,18 +32,6 @@
 
 namespace {
 
-
-bool enterMi(const QKeyEvent* olay)
-{
-    return olay->key() == Qt::Key_Return || olay->key() == Qt::Key_Enter;
-}
-
-// A key that types a character into a box.
-bool yaziTusuMu(const QKeyEvent* olay)
-{
-    return !olay->text().isEmpty() && olay->text().at(0).isPrint()
-           && !(olay->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
-}
 
 // Refills a combo's list; the text typed in it stays.
 void listeDoldur(QComboBox* kutu, const QStringList& ogeler)
@@ -177,6 +163,7 @@ FIS_K::FIS_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
     T->Delege()->ListeVer(FisSutun::MalzAdi, m_sinifListesi);
     T->Delege()->ListeVer(FisSutun::Unite, m_uniteListesi);
     T->Delege()->ListeVer(FisSutun::IslemTur, m_islemTurleri);
+    m_giris = new SatirGirisi(T, {[this] { MalzAdGetir(); }, [this](const QString& m) { Bildir(m); }}, this);
     ana->addWidget(T, 1);
 
     auto* alt = new QHBoxLayout;
@@ -328,7 +315,7 @@ FIS_K::FIS_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
     TusTanimla(QKeySequence(Qt::Key_F7), [this] { IstekYazdir(); });
     // F8 typed in the line editor deletes the row as well.
     TusTanimla(QKeySequence(Qt::Key_F8), [this] {
-        if (TE1() && QApplication::focusWidget() == TE1())
+        if (m_giris->TE1() && QApplication::focusWidget() == m_giris->TE1())
             SatirSil();
         SinifEkraniAc();
     });
@@ -727,24 +714,6 @@ void FIS_K::HucreDegisti(int satir, int sutun)
         });
 }
 
-QLineEdit* FIS_K::TE1() const
-{
-    return qobject_cast<QLineEdit*>(T->Editor());
-}
-
-QString FIS_K::KodMetni() const
-{
-    const auto* kutu = qobject_cast<const QComboBox*>(T->Editor());
-    return kutu && T->Col() == FisSutun::HesapKod ? kutu->currentText() : Hucre(FisSutun::HesapKod);
-}
-
-void FIS_K::EditorOdak()
-{
-    T->Editor()->setFocus();
-    if (QLineEdit* kutu = TE1())
-        MetinSec(kutu);
-}
-
 void FIS_K::ListeDoldur(QStringListModel* liste, const QStringList& ogeler)
 {
     auto* kutu = qobject_cast<QComboBox*>(T->Editor());
@@ -753,16 +722,6 @@ void FIS_K::ListeDoldur(QStringListModel* liste, const QStringList& ogeler)
     liste->setStringList(ogeler);
     if (bunda)
         kutu->setEditText(metin);
-}
-
-bool FIS_K::SatirGit(int satir, int sutun)
-{
-    if (satir > FisSatir::SatirSayisi) {
-        Bildir(QStringLiteral("Bir fişe en çok 25 satır yazılabilir."));
-        return false;
-    }
-    T->HucreSec(satir, sutun);
-    return true;
 }
 
 bool FIS_K::eventFilter(QObject* nesne, QEvent* olay)
@@ -783,17 +742,15 @@ bool FIS_K::eventFilter(QObject* nesne, QEvent* olay)
         break;
     case QEvent::KeyPress: {
         auto* tus = static_cast<QKeyEvent*>(olay);
+        if (m_giris->Tus(nesne, tus))
+            return true;
         if (tus->key() == Qt::Key_Escape) {
             EscTusu(nesne);
             return true;
         }
         if (nesne == FisNo)
             return FisNoTusu(tus);
-        if (nesne == T)
-            return IzgaraTusu(tus);
-        if (nesne == T->Editor())
-            return TE1() ? TE1Tusu(tus) : EditorTusu(tus);
-        if (nesne == KDVOran && enterMi(tus)) {
+        if (nesne == KDVOran && SatirGirisi::EnterMi(tus)) {
             KdvOranEnter();
             return true;
         }
@@ -842,11 +799,7 @@ bool FIS_K::eventFilter(QObject* nesne, QEvent* olay)
 
 void FIS_K::EscTusu(QObject* nesne)
 {
-    if (TE1() && nesne == TE1()) {
-        // Esc blanks the cell; there is nothing to undo to.
-        TE1()->clear();
-        T->setFocus();
-    } else if (nesne == L3) {
+    if (nesne == L3) {
         L3Kapat();
         T->setFocus();
     } else if (nesne == KDVOran) {
@@ -857,15 +810,9 @@ void FIS_K::EscTusu(QObject* nesne)
     }
 }
 
-void FIS_K::TusuGonder(QWidget* hedef, QKeyEvent* olay)
-{
-    QKeyEvent kopya(olay->type(), olay->key(), olay->modifiers(), olay->text());
-    QApplication::sendEvent(hedef, &kopya);
-}
-
 bool FIS_K::FisNoTusu(QKeyEvent* olay)
 {
-    if (enterMi(olay)) {
+    if (SatirGirisi::EnterMi(olay)) {
         if (FisNo->text().trimmed().isEmpty()) {
             Bildir(QStringLiteral("Bir Fiş No girmek zorundasınız.."), QString(), QMessageBox::Critical);
             return true;
@@ -898,7 +845,7 @@ bool FIS_K::FisNoTusu(QKeyEvent* olay)
 
 bool FIS_K::BasTusu(QWidget* kutu, QKeyEvent* olay)
 {
-    const bool ileri = enterMi(olay) || olay->key() == Qt::Key_Down;
+    const bool ileri = SatirGirisi::EnterMi(olay) || olay->key() == Qt::Key_Down;
     if (!ileri && olay->key() != Qt::Key_Up)
         return false;
     // The path skips what an issue voucher hides; past its end lies the grid.
@@ -916,144 +863,9 @@ bool FIS_K::BasTusu(QWidget* kutu, QKeyEvent* olay)
     return true;
 }
 
-bool FIS_K::IzgaraTusu(QKeyEvent* olay)
-{
-    if (enterMi(olay)) {
-        IzgaraEnter();
-        return true;
-    }
-    if (!yaziTusuMu(olay))
-        return false;
-    const int satir = T->Row();
-    const int sutun = T->Col();
-    switch (T->SutunEditoru(sutun)) {
-    case EditorTuru::Liste: {
-        auto* kutu = static_cast<QComboBox*>(T->Editor());
-        kutu->setFocus();
-        MetinSec(kutu);
-        TusuGonder(kutu->lineEdit(), olay);
-        return true;
-    }
-    case EditorTuru::Tarih: {
-        auto* tarih = static_cast<TarihSecici*>(T->Editor());
-        if (olay->key() == Qt::Key_Space && !tarih->Bos()) {
-            HucreYaz(sutun, QString());
-        } else {
-            BugunYaz();
-            tarih->setFocus();
-        }
-        return true;
-    }
-    case EditorTuru::Metin:
-        if (sutun > FisSatir::SonSutun && !SatirGit(satir + 1, FisSutun::Sira))
-            return true;
-        EditorOdak();
-        TusuGonder(TE1(), olay);
-        return true;
-    }
-    return false;
-}
-
-void FIS_K::BugunYaz()
-{
-    auto* tarih = static_cast<TarihSecici*>(T->Editor());
-    tarih->GunYaz(Saat::Bugun());
-    HucreYaz(FisSutun::BelgeTarih, tarih->Metin());
-}
-
-void FIS_K::IzgaraEnter()
-{
-    const int satir = T->Row();
-    const int sutun = T->Col();
-    switch (sutun) {
-    case FisSutun::HesapKod:
-        MalzAdGetir();
-        T->HucreSec(satir, FisSutun::MalzAdi);
-        EditorOdak();
-        return;
-    case FisSutun::MalzAdi:
-    case FisSutun::Unite:
-    case FisSutun::IslemTur:
-        EditorOdak();
-        return;
-    case FisSutun::BelgeTarih:
-        // Enter is a key like any other here: the date becomes today's.
-        BugunYaz();
-        EditorOdak();
-        return;
-    default: {
-        const FisSatir::EnterSonucu sonuc = FisSatir::GridEnter({satir, sutun}, Hucre(FisSutun::BirimFiyat));
-        if (!sonuc.tarih.isNull())
-            HucreYaz(FisSutun::BelgeTarih, sonuc.tarih);
-        if (SatirGit(sonuc.hucre.satir, sonuc.hucre.sutun))
-            EditorOdak();
-    }
-    }
-}
-
-bool FIS_K::TE1Tusu(QKeyEvent* olay)
-{
-    const int satir = T->Row();
-    const int sutun = T->Col();
-    const auto git = [this](int r, int c) {
-        T->setFocus();
-        T->HucreSec(r, c);
-        return true;
-    };
-    if (enterMi(olay)) {
-        T->setFocus();
-        if (sutun < FisSatir::SonSutun)
-            T->HucreSec(satir, sutun + 1);
-        return true;
-    }
-    switch (olay->key()) {
-    case Qt::Key_Up:
-        return satir > 1 && git(satir - 1, sutun);
-    case Qt::Key_Down:
-        return satir < FisSatir::SatirSayisi && git(satir + 1, sutun);
-    case Qt::Key_Left:
-        return satir < FisSatir::SatirSayisi && sutun > FisSutun::HesapKod && git(satir, sutun - 1);
-    case Qt::Key_Right:
-        return sutun < FisSatir::SonSutun && git(satir, sutun + 1);
-    default:
-        return false;
-    }
-}
-
-bool FIS_K::EditorTusu(QKeyEvent* olay)
-{
-    const int satir = T->Row();
-    const int sutun = T->Col();
-    const bool enter = enterMi(olay);
-    if (olay->key() == Qt::Key_Down) {
-        if (satir < FisSatir::SatirSayisi)
-            T->setFocus();
-        SatirGit(satir + 1, sutun);
-        return true;
-    }
-    if (olay->key() == Qt::Key_Left) {
-        if (satir < FisSatir::SatirSayisi && sutun > FisSutun::HesapKod) {
-            T->setFocus();
-            T->HucreSec(satir, sutun - 1);
-        }
-        return true;
-    }
-    if (!enter && olay->key() != Qt::Key_Right)
-        return false;
-    // The screen's Enter on the code column adds the step to the name.
-    if (sutun == FisSutun::HesapKod && enter)
-        MalzAdGetir();
-    T->setFocus();
-    if (sutun == FisSutun::HesapKod)
-        T->HucreSec(satir, FisSutun::MalzAdi);
-    else if (sutun == FisSutun::MalzAdi)
-        T->HucreSec(satir, FisSutun::Ozellik);
-    return true;
-}
-
 void FIS_K::MalzAdGetir()
 {
-    const QString kod = KodMetni();
+    const QString kod = m_giris->KodMetni();
     if (kod.isEmpty())
         return;
     std::optional<QString> ad;
@@ -1132,7 +944,7 @@ void FIS_K::AsagiKopyala()
     const int satir = T->Row();
     const int sutun = T->Col();
     if (satir >= FisSatir::SatirSayisi) {
-        SatirGit(satir + 1, sutun);
+        m_giris->SatirGit(satir + 1, sutun);
         return;
     }
     QList<QStringList> satirlar = T->Hucreler();
@@ -1187,7 +999,7 @@ void FIS_K::MalzemeListesiAc(bool dugme)
     }
     if (sutun == FisSutun::HesapKod) {
         m_malzeme->Hangi = QStringLiteral("Fis_K");
-        m_malzeme->HesapKod->setText(KodMetni());
+        m_malzeme->HesapKod->setText(m_giris->KodMetni());
     } else if (sutun == FisSutun::Ozellik) {
         m_malzeme->Hangi = QStringLiteral("Fis_K");
         m_malzeme->Option3->setChecked(true);

@@ -21,6 +21,7 @@ class QLineEdit;
 class QPushButton;
 class QToolButton;
 class SayfaEkrani;
+class SatirGirisi;
 class SatirIzgarasi;
 class SinifTani;
 class QStringListModel;
@@ -102,28 +103,12 @@ private:
     QString Hucre(int sutun) const;
     void HucreYaz(int sutun, const QString& metin);
     void HucreDegisti(int satir, int sutun);
-    // The line box when it stands over the current cell.
-    QLineEdit* TE1() const;
-    // The code as its combo shows it, over the code column; else the cell's.
-    QString KodMetni() const;
-    // Gives the focus to the editor over the current cell.
-    void EditorOdak();
     // Refills a combo column's list; the text typed in its combo stays.
     void ListeDoldur(QStringListModel* liste, const QStringList& ogeler);
-    // Moves the current cell; a row past the grid's last is refused with a
-    // message.
-    bool SatirGit(int satir, int sutun);
 
     bool BasTusu(QWidget* kutu, QKeyEvent* olay);
     bool FisNoTusu(QKeyEvent* olay);
-    bool IzgaraTusu(QKeyEvent* olay);
-    void IzgaraEnter();
-    // The date editor and its cell take today's date.
-    void BugunYaz();
-    bool TE1Tusu(QKeyEvent* olay);
-    bool EditorTusu(QKeyEvent* olay);
     void EscTusu(QObject* nesne);
-    void TusuGonder(QWidget* hedef, QKeyEvent* olay);
 
     void MalzAdGetir();
     void ListedenSecildi(int sutun, int sira, const QString& oge);
@@ -182,6 +167,7 @@ private:
     QStringListModel* m_uniteListesi;
     QStringListModel* m_islemTurleri;
     SatirIzgarasi* T;
+    SatirGirisi* m_giris;
     ListeIzgarasi* L3;
     QLabel* Label13;
     QLabel* Label19;

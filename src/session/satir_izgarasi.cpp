@@ -8,7 +8,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QScrollBar>
+#include <QStringListModel>
 
 namespace {
 
@@ -194,6 +194,16 @@ void SatirIzgarasi::EditorTasi(const QModelIndex& yer)
     m_editorYeri = yer;
     openPersistentEditor(yer);
     emit EditorAcildi(Editor());
+}
+
+void SatirIzgarasi::ListeDoldur(QStringListModel* liste, const QStringList& ogeler)
+{
+    auto* kutu = qobject_cast<QComboBox*>(Editor());
+    const bool bunda = kutu && kutu->model() == liste;
+    const QString metin = bunda ? kutu->currentText() : QString();
+    liste->setStringList(ogeler);
+    if (bunda)
+        kutu->setEditText(metin);
 }
 
 QWidget* SatirIzgarasi::Editor() const

@@ -7,6 +7,8 @@
 #include <QStyledItemDelegate>
 #include <QTableView>
 
+class QStringListModel;
+
 // The editors of a line grid, by the kind its column table gives each
 // column: a line box, a combo over a list the screen hands in, a date
 // editor. Every change reaches the cell at once; the keys are the screen's.
@@ -70,6 +72,10 @@ public:
     // The current cell in the viewport's coordinates.
     QRect HucreAlani() const;
     int TwipPiksel(int twip) const;
+
+    // Refills a combo column's list; what is typed in the combo over the
+    // current cell stays.
+    void ListeDoldur(QStringListModel* liste, const QStringList& ogeler);
 
     // The editor over the current cell, none before a cell is current.
     QWidget* Editor() const;

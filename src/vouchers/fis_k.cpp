@@ -667,8 +667,8 @@ void FIS_K::GridHazirla()
 void FIS_K::Urunler()
 {
     Dene([this] {
-        ListeDoldur(m_hesKodlari, FisSatir::HesKodListesi(Genel()));
-        ListeDoldur(m_sinifListesi, FisSatir::SinifAdlari(Genel()));
+        T->ListeDoldur(m_hesKodlari, FisSatir::HesKodListesi(Genel()));
+        T->ListeDoldur(m_sinifListesi, FisSatir::SinifAdlari(Genel()));
     });
 }
 
@@ -713,16 +713,6 @@ void FIS_K::HucreDegisti(int satir, int sutun)
             UniteAd2 = AlanGetir(Genel(), QStringLiteral("Unite_K"), QStringLiteral("UniteAd"),
                                  QStringLiteral(" where UniteKod = ? "), {uniteKod});
         });
-}
-
-void FIS_K::ListeDoldur(QStringListModel* liste, const QStringList& ogeler)
-{
-    auto* kutu = qobject_cast<QComboBox*>(T->Editor());
-    const bool bunda = kutu && kutu->model() == liste;
-    const QString metin = bunda ? kutu->currentText() : QString();
-    liste->setStringList(ogeler);
-    if (bunda)
-        kutu->setEditText(metin);
 }
 
 bool FIS_K::eventFilter(QObject* nesne, QEvent* olay)
@@ -771,7 +761,7 @@ bool FIS_K::eventFilter(QObject* nesne, QEvent* olay)
         else if (nesne == NeredenGeldigi)
             Dene([this] { listeDoldur(NeredenGeldigi, FisSatir::NeredenGeldiler(Ayniyat(), FCins)); });
         else if (nesne == T->Editor() && T->Col() == FisSutun::Unite)
-            Dene([this] { ListeDoldur(m_uniteListesi, FisSatir::UniteAdlari(Genel())); });
+            Dene([this] { T->ListeDoldur(m_uniteListesi, FisSatir::UniteAdlari(Genel())); });
         break;
     }
     case QEvent::FocusOut: {

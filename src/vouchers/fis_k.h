@@ -103,8 +103,6 @@ private:
     QString Hucre(int sutun) const;
     void HucreYaz(int sutun, const QString& metin);
     void HucreDegisti(int satir, int sutun);
-    // Refills a combo column's list; the text typed in its combo stays.
-    void ListeDoldur(QStringListModel* liste, const QStringList& ogeler);
 
     bool BasTusu(QWidget* kutu, QKeyEvent* olay);
     bool FisNoTusu(QKeyEvent* olay);

@@ -109,10 +109,15 @@ FisSatir::EnterSonucu FisSatir::GridEnter(Hucre hucre, const QString& birimFiyat
 
 bool FisSatir::AsagiKopyala(QList<QStringList>& satirlar, Hucre hucre)
 {
+    const bool sinifta = hucre.sutun == FisSutun::HesapKod || hucre.sutun == FisSutun::MalzAdi;
+    return SatirKopyala(satirlar, hucre, sinifta ? FisSutun::KDV : hucre.sutun);
+}
+
+bool FisSatir::SatirKopyala(QList<QStringList>& satirlar, Hucre hucre, int beraber)
+{
     const QStringList& ust = satirlar.at(hucre.satir - 1);
     QStringList& alt = satirlar[hucre.satir];
-    if (hucre.sutun == FisSutun::HesapKod || hucre.sutun == FisSutun::MalzAdi)
-        alt[FisSutun::KDV] = ust.at(FisSutun::KDV);
+    alt[beraber] = ust.at(beraber);
     if (ust.at(hucre.sutun).isEmpty())
         return false;
     alt[hucre.sutun] = ust.at(hucre.sutun);

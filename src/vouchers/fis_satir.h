@@ -47,9 +47,11 @@ struct EnterSonucu
 // come out past the grid's last.
 EnterSonucu GridEnter(Hucre hucre, const QString& birimFiyat);
 
-// Insert: on the class columns the tax rate goes down with the line; a
-// non-empty cell is copied to the row below. True when the current row moves
-// one down. The row below must exist.
+// Insert: the cell of column `beraber` goes down to the row below whatever
+// it holds; the current cell, when it is not empty, goes with it. True when
+// the current row moves one down. The row below must exist.
+bool SatirKopyala(QList<QStringList>& satirlar, Hucre hucre, int beraber);
+// The voucher's Insert: the tax rate goes down along from the class columns.
 bool AsagiKopyala(QList<QStringList>& satirlar, Hucre hucre);
 // Removes the row; the rows under it move up and an empty one comes last.
 void SatirSil(QList<QStringList>& satirlar, int satir);

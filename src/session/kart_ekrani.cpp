@@ -21,6 +21,17 @@ KartEkrani::KartEkrani(const CalismaBaglami& baglam, QWidget* ebeveyn)
     TusTanimla(QKeySequence(Qt::Key_Escape), [this] { close(); });
 }
 
+QLabel* KartEkrani::BaslikEtiketi(const QString& ad, const QString& metin)
+{
+    auto* etiket = new QLabel(metin, this);
+    etiket->setObjectName(ad);
+    QFont yazi = etiket->font();
+    yazi.setBold(true);
+    yazi.setPointSizeF(yazi.pointSizeF() * 1.3);
+    etiket->setFont(yazi);
+    return etiket;
+}
+
 void KartEkrani::DurumSatiriEkle(QBoxLayout* yerlesim)
 {
     yerlesim->addWidget(m_durum);

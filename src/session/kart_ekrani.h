@@ -50,6 +50,8 @@ protected:
     // Runs a command under the busy cursor; an error it raises is shown and
     // the screen goes on.
     void Komut(const std::function<void()>& is);
+    // The screen's heading, bold and larger than the rest.
+    QLabel* BaslikEtiketi(const QString& ad, const QString& metin);
     // Puts the status line under the given layout's last row.
     void DurumSatiriEkle(class QBoxLayout* yerlesim);
     // Prints through the screen's output; a printer failure shows

@@ -2,6 +2,7 @@
 
 #include "bicim.h"
 #include "tarih_secici.h"
+#include "yazilir_kutu.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -69,11 +70,7 @@ QWidget* IzgaraDelegesi::createEditor(QWidget* ebeveyn, const QStyleOptionViewIt
         break;
     }
     case EditorTuru::Liste: {
-        auto* kutu = new QComboBox(ebeveyn);
-        kutu->setEditable(true);
-        kutu->setInsertPolicy(QComboBox::NoInsert);
-        // The old combos did not complete what was typed.
-        kutu->setCompleter(nullptr);
+        auto* kutu = YazilirKutu(ebeveyn, sutun.editorAdi);
         if (QAbstractItemModel* liste = m_listeler.value(yer.column())) {
             kutu->setModel(liste);
             const int kaydirma = kutu->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
@@ -169,8 +166,7 @@ SatirIzgarasi::SatirIzgarasi(IzgaraModeli* model, QWidget* ebeveyn)
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     setStyleSheet(QStringLiteral("QTableView::item:focus { border: 1px solid palette(highlight); }"));
-    for (int c = 0; c < m_model->columnCount(); ++c)
-        Genislik(c, m_model->Sutunlar().at(c).genislik);
+    Hazirla(m_model->Sutunlar());
     connect(selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& simdiki) {
         if (!simdiki.isValid())
             return;
@@ -259,6 +255,15 @@ void SatirIzgarasi::Baslik(int sutun, const QString& metin)
 void SatirIzgarasi::Genislik(int sutun, int twip)
 {
     setColumnWidth(sutun, TwipPiksel(twip));
+}
+
+void SatirIzgarasi::Hazirla(const QList<IzgaraSutunu>& sutunlar)
+{
+    for (int c = 0; c < sutunlar.size(); ++c) {
+        Baslik(c, sutunlar.at(c).baslik);
+        Genislik(c, sutunlar.at(c).genislik);
+    }
+    HucreSec(1, 0);
 }
 
 QRect SatirIzgarasi::HucreAlani() const

@@ -69,6 +69,9 @@ public:
     void HucreleriYaz(const QList<QStringList>& satirlar);
     void Baslik(int sutun, const QString& metin);
     void Genislik(int sutun, int twip);
+    // Captions and widths as the table has them, the current cell at row 1,
+    // column 0.
+    void Hazirla(const QList<IzgaraSutunu>& sutunlar);
     // The current cell in the viewport's coordinates.
     QRect HucreAlani() const;
     int TwipPiksel(int twip) const;

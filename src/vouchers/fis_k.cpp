@@ -14,6 +14,7 @@
 #include "sinif_tani.h"
 #include "tek_deger.h"
 #include "veritabani.h"
+#include "yazilir_kutu.h"
 #include "zimmet_yaz.h"
 
 #include <QApplication>
@@ -31,42 +32,12 @@
 #include <algorithm>
 #include <optional>
 
-namespace {
-
-
-// Refills a combo's list; the text typed in it stays.
-void listeDoldur(QComboBox* kutu, const QStringList& ogeler)
-{
-    const QString metin = kutu->currentText();
-    kutu->clear();
-    kutu->addItems(ogeler);
-    kutu->setEditText(metin);
-}
-
-QComboBox* yazilirKutu(const QString& ad, QWidget* ebeveyn)
-{
-    auto* kutu = new QComboBox(ebeveyn);
-    kutu->setObjectName(ad);
-    kutu->setEditable(true);
-    kutu->setInsertPolicy(QComboBox::NoInsert);
-    // The old combos did not complete what was typed.
-    kutu->setCompleter(nullptr);
-    return kutu;
-}
-
-}
-
 FIS_K::FIS_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam, parent)
 {
     setWindowTitle(QStringLiteral("Fiş Giriş-Düzeltme"));
     auto* ana = new QVBoxLayout(this);
 
-    Label2 = new QLabel(QStringLiteral("Giriş ve Birime Çıkış"), this);
-    Label2->setObjectName(QStringLiteral("Label2"));
-    QFont baslikYazisi = Label2->font();
-    baslikYazisi.setBold(true);
-    baslikYazisi.setPointSizeF(baslikYazisi.pointSizeF() * 1.3);
-    Label2->setFont(baslikYazisi);
+    Label2 = BaslikEtiketi(QStringLiteral("Label2"), QStringLiteral("Giriş ve Birime Çıkış"));
     ana->addWidget(Label2);
 
     auto* bas = new QGridLayout;
@@ -101,14 +72,14 @@ FIS_K::FIS_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
     Tarih = metinKutusu(QStringLiteral("Tarih"));
     KabulTarih = metinKutusu(QStringLiteral("KabulTarih"));
     KabulSayi = metinKutusu(QStringLiteral("KabulSayi"));
-    TeslimAlan = yazilirKutu(QStringLiteral("TeslimAlan"), this);
-    BelgeTur = yazilirKutu(QStringLiteral("BelgeTur"), this);
+    TeslimAlan = YazilirKutu(this, QStringLiteral("TeslimAlan"));
+    BelgeTur = YazilirKutu(this, QStringLiteral("BelgeTur"));
     BelgeTur->addItems({QStringLiteral("Fatura"), QStringLiteral("Karar"), QStringLiteral("Makbuz"),
                         QStringLiteral("Onay"), QStringLiteral("Protokol"), QStringLiteral("Sözleşme"),
                         QStringLiteral("Tutanak"), QStringLiteral("İstekBelgesi"), QStringLiteral("Diğer")});
     BelgeTur->setEditText(QString());
     BelgeSayi = metinKutusu(QStringLiteral("BelgeSayi"));
-    NeredenGeldigi = yazilirKutu(QStringLiteral("NeredenGeldigi"), this);
+    NeredenGeldigi = YazilirKutu(this, QStringLiteral("NeredenGeldigi"));
     for (QWidget* k : std::initializer_list<QWidget*>{Tarih, KabulTarih, KabulSayi, BelgeSayi})
         k->setMaximumWidth(fontMetrics().averageCharWidth() * 14);
     TeslimAlan->setMinimumWidth(fontMetrics().averageCharWidth() * 30);
@@ -655,12 +626,7 @@ void FIS_K::Yeni()
 
 void FIS_K::GridHazirla()
 {
-    const QList<IzgaraSutunu> sutunlar = FisSatir::Sutunlar();
-    for (int c = 0; c < FisSutun::Sayi; ++c) {
-        T->Baslik(c, sutunlar.at(c).baslik);
-        T->Genislik(c, sutunlar.at(c).genislik);
-    }
-    T->HucreSec(1, FisSutun::Sira);
+    T->Hazirla(FisSatir::Sutunlar());
     HucreDegisti(1, FisSutun::Sira);
 }
 
@@ -757,9 +723,9 @@ bool FIS_K::eventFilter(QObject* nesne, QEvent* olay)
         if (neden == Qt::ActiveWindowFocusReason || neden == Qt::PopupFocusReason)
             break;
         if (nesne == TeslimAlan)
-            Dene([this] { listeDoldur(TeslimAlan, FisSatir::TeslimAlanlar(Ayniyat(), FCins)); });
+            Dene([this] { ListeDoldur(TeslimAlan, FisSatir::TeslimAlanlar(Ayniyat(), FCins)); });
         else if (nesne == NeredenGeldigi)
-            Dene([this] { listeDoldur(NeredenGeldigi, FisSatir::NeredenGeldiler(Ayniyat(), FCins)); });
+            Dene([this] { ListeDoldur(NeredenGeldigi, FisSatir::NeredenGeldiler(Ayniyat(), FCins)); });
         else if (nesne == T->Editor() && T->Col() == FisSutun::Unite)
             Dene([this] { T->ListeDoldur(m_uniteListesi, FisSatir::UniteAdlari(Genel())); });
         break;

@@ -380,12 +380,12 @@ void FisKdvYaz(Sayfa& sayfa, const FisYazimi& yazim, const QString& kdvTutari)
         throw Hata(QStringLiteral("KDV Tutarı bir sayı olmalı: ") + kdvTutari);
 
     const double kdvY = ToplamY(yazim.fis) + Ciz::SatirAdimi;
-    Ciz::Sil(sayfa, ToplamX, kdvY);
+    Ciz::Sil(sayfa, ToplamX, kdvY, 9);
     QVariant yuvarlanmis = FisToplam::Yuvarla(*kdv, 2);
     Ciz::Yaz(sayfa, ToplamX, kdvY, QStringLiteral("    KDV. ...  : ") + Tutar2YazTek(yuvarlanmis, 15), 9);
 
     const double genelY = kdvY + 2 * BlokSatiri;
-    Ciz::Sil(sayfa, GenelToplamX, genelY);
+    Ciz::Sil(sayfa, GenelToplamX, genelY, 10, true);
     QVariant genelToplam = Val(VirgulNokta(yazim.Text3)) + Val(VirgulNokta(kdvTutari));
     Ciz::Yaz(sayfa, GenelToplamX, genelY, QStringLiteral("G.Toplam : ") + Tutar2YazTek(genelToplam, 15), 10, true);
 }

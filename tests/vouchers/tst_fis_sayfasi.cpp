@@ -10,6 +10,7 @@
 #include "veri_klasoru.h"
 #include "veri.h"
 
+#include <QFontMetricsF>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
@@ -326,6 +327,38 @@ private slots:
                      qPrintable(a.metin + u" / "_s + b.metin));
         }
         QCOMPARE(!cakisanlar.isEmpty(), harfCakisir);
+    }
+
+    // A value too wide for its box is set smaller, on its baseline, by the
+    // least that makes it fit; at the floor it is cut.
+    void sigdir_data()
+    {
+        QTest::addColumn<double>("punto");  // the size the box is made for
+        QTest::addColumn<double>("eksik");  // twips of room less
+        QTest::addColumn<double>("beklenen");
+        const double taban = FormCizimi::EnKucukPunto;
+        QTest::newRow("fits to the twip") << 9. << 0. << 9.;
+        QTest::newRow("a twip short") << 9. << 1. << 8.95;
+        QTest::newRow("fits at the floor") << taban << 0. << taban;
+        QTest::newRow("a twip short at the floor: cut") << taban << 1. << taban;
+    }
+    void sigdir()
+    {
+        QFETCH(double, punto);
+        QFETCH(double, eksik);
+        QFETCH(double, beklenen);
+        const QString metin(20, u'W');
+        const auto olcu = [](double p) { return QFontMetricsF(YaziFontu(p, false)); };
+        const double sag = 100 + olcu(punto).horizontalAdvance(metin) - eksik + FormCizimi::CerceveCizgisi / 2;
+        Sayfa s;
+        FormCizimi::Kutu(s.zemin, 0, 0, sag, 400, FormCizimi::CerceveCizgisi);
+        FormCizimi::Sigdir(s, 100, 100, metin, 9, sag);
+        const SayfaYazisi y = s.yazilar.value(0);
+        QCOMPARE(y.punto, beklenen);
+        QCOMPARE(y.y + olcu(beklenen).ascent(), 100 + olcu(9).ascent());
+        const bool kesik = punto == FormCizimi::EnKucukPunto && eksik > 0;
+        QCOMPARE(y.metin, kesik ? metin.left(y.metin.size() - 1) + u'…' : metin);
+        QVERIFY(FormCizimi::YerindeOlmayanlar(s).isEmpty());
     }
 
     void ekran()

@@ -20,6 +20,8 @@ constexpr double BasSatiriY = 1700 + 5 * BlokSatiri;  // İşlem türü, nereden
 constexpr double SutunX[] = {1, 350, 1600, 3660, 6620, 7260, 8540, 9250};
 constexpr double ToplamX = 8650;
 constexpr double GenelToplamX = 8450;
+// The amount in words stands across this line and the next.
+constexpr int HarfSatiri = 15;
 constexpr double HarfYazmaY = 7930;
 constexpr double MiktarToplamiY = 11410;
 
@@ -65,7 +67,6 @@ double ToplamY(const FisEkrani& fis)
     return SatirY(son + 1);
 }
 
-
 // The rule above the line of the voucher standing at y.
 double SatirCizgisi(double y)
 {
@@ -76,6 +77,36 @@ double SatirCizgisi(double y)
 double AltBolumUst()
 {
     return SatirCizgisi(SatirY(Ciz::SatirSayisi + 1)) + ToplamSatirlari * Ciz::SatirAdimi;
+}
+
+using Aralik = QPair<double, double>;
+
+// The rows the totals box takes, from the line under the last line.
+Aralik ToplamBandi(const FisEkrani& fis)
+{
+    const double ust = SatirCizgisi(ToplamY(fis));
+    return {ust, ust + ToplamSatirlari * Ciz::SatirAdimi};
+}
+
+// Where the amount in words goes: its own place while the lines it stands
+// across are empty, else the line under the last line, beside the total;
+// under a voucher of 25 lines, the row of the box below the table that its
+// label leaves free.
+double HarfY(const FisEkrani& fis)
+{
+    if (!Satirda(fis, HarfSatiri) && !Satirda(fis, HarfSatiri + 1))
+        return HarfYazmaY;
+    const double y = ToplamY(fis);
+    return y <= SatirY(Ciz::SatirSayisi) ? y : SatirY(Ciz::SatirSayisi + 2);
+}
+
+// The rows the table leaves without rules for the words: the two lines they
+// stand across at their own place, one line anywhere else.
+Aralik HarfBandi(const FisEkrani& fis)
+{
+    const double y = HarfY(fis);
+    const double ust = SatirCizgisi(y);
+    return {ust, ust + (y == HarfYazmaY ? 2 : 1) * Ciz::SatirAdimi};
 }
 
 double BlokCizgisi(int satir)
@@ -155,8 +186,6 @@ void BasSatiriCiz(Zemin& z)
     Ciz::Kutu(z, 7950, BasEtiketAlt, Sag, TabloUst);
 }
 
-using Aralik = QPair<double, double>;
-
 // What is left of a rule from `bas` to `son` where it crosses no gap.
 QList<Aralik> Parcalar(double bas, double son, const QList<Aralik>& bosluklar)
 {
@@ -179,10 +208,9 @@ QList<Aralik> Parcalar(double bas, double son, const QList<Aralik>& bosluklar)
 }
 
 // The lines' table, and under it room for the totals of a voucher of 25
-// lines. Two places break its grid: the amount in words, printed across lines
-// 15 and 16, and the totals box under the last line, which reaches into the
-// empty rows below it.
-void TabloCiz(Zemin& z, double toplamUst)
+// lines. Two places break its grid: the amount in words, and the totals box
+// under the last line, which reaches into the empty rows below it.
+void TabloCiz(Zemin& z, const FisEkrani& fis)
 {
     const QList<double> sutunlar(std::begin(TabloSutunlari), std::end(TabloSutunlari));
     const double govdeUst = SatirCizgisi(IlkSatirY);
@@ -193,10 +221,9 @@ void TabloCiz(Zemin& z, double toplamUst)
                     QStringLiteral("Miktarı"), QStringLiteral("Birim Fiyatı"), QStringLiteral("Tutarı")});
     Ciz::Kutu(z, Sol, govdeUst, Sag, AltBolumUst());
 
-    const double toplamAlt = toplamUst + ToplamSatirlari * Ciz::SatirAdimi;
-    Ciz::Kutu(z, ToplamSol, toplamUst, Sag, toplamAlt);
-    const Aralik toplam(toplamUst, toplamAlt);
-    const Aralik harf(SatirCizgisi(HarfYazmaY), SatirCizgisi(HarfYazmaY) + 2 * Ciz::SatirAdimi);
+    const Aralik toplam = ToplamBandi(fis);
+    Ciz::Kutu(z, ToplamSol, toplam.first, Sag, toplam.second);
+    const Aralik harf = HarfBandi(fis);
 
     for (qsizetype i = 1; i + 1 < sutunlar.size(); ++i) {
         const double x = sutunlar[i];
@@ -271,7 +298,7 @@ Zemin FisZemini(const FisEkrani& fis)
     KurumCiz(z);
     KabulCiz(z);
     BasSatiriCiz(z);
-    TabloCiz(z, SatirCizgisi(ToplamY(fis)));
+    TabloCiz(z, fis);
     ImzaCiz(z);
     Ciz::Kutu(z, Sol, Ust, Sag, ImzaAlt(), Ciz::CerceveCizgisi);
     return z;
@@ -358,7 +385,7 @@ Sayfa FisSayfasi(const FisYazimi& yazim, const SabitSatiri& sabit)
         Ciz::Yaz(sayfa, 8000, BasSatiriY, yazim.UniteAd2, 11);
 
     Ciz::Yaz(sayfa, 500, 9750, yazim.ACIKLAMA_B, 9);
-    Ciz::Yaz(sayfa, 300, HarfYazmaY, yazim.HarfYazma, 9);
+    Ciz::Yaz(sayfa, 300, HarfY(fis), yazim.HarfYazma, 9);
 
     SatirlariYaz(sayfa, fis);
 

@@ -99,6 +99,17 @@ void FormCizimi::Sigdir(Sayfa& sayfa, double x, double y, const QString& metin, 
         boy / NoktaTwip, kalin);
 }
 
+double FormCizimi::Ardindan(const SayfaYazisi& onceki, double x, const QString& metin, double punto, bool kalin)
+{
+    SayfaYazisi yazi = onceki;
+    yazi.x = x;
+    yazi.metin = metin;
+    yazi.punto = punto;
+    yazi.kalin = kalin;
+    const double bosluk = Olcu(punto, kalin).horizontalAdvance(u' ');
+    return x + qMax(0.0, MurekkepAlani(onceki).right() + bosluk - MurekkepAlani(yazi).left());
+}
+
 void FormCizimi::Sil(Sayfa& sayfa, double x, double y, double punto, bool kalin)
 {
     const double taban = Taban(y, punto, kalin);

@@ -31,6 +31,9 @@ void Yaz(Sayfa& sayfa, double x, double y, const QString& metin, double punto, b
 // reach the rule is set smaller, on the baseline it would have had, down to
 // EnKucukPunto; at that size it is cut and ends with "…".
 void Sigdir(Sayfa& sayfa, double x, double y, const QString& metin, double punto, double sag, bool kalin = false);
+// Where a text put at x on the line of `onceki` goes for its letters to
+// start a blank's width after that text's: x itself when they do already.
+double Ardindan(const SayfaYazisi& onceki, double x, const QString& metin, double punto, bool kalin = false);
 // Takes away the texts put at (x, y) in the size `punto`, set smaller or not:
 // the forms blanked a place before printing over it again.
 void Sil(Sayfa& sayfa, double x, double y, double punto, bool kalin = false);

@@ -20,6 +20,8 @@ constexpr double BasSatiriY = 1700 + 5 * BlokSatiri;  // İşlem türü, nereden
 constexpr double SutunX[] = {1, 350, 1600, 3660, 6620, 7260, 8540, 9250};
 constexpr double ToplamX = 8650;
 constexpr double GenelToplamX = 8450;
+// The amount in words stands across this line and the next.
+constexpr int HarfSatiri = 15;
 constexpr double HarfYazmaY = 7930;
 constexpr double MiktarToplamiY = 11410;
 
@@ -30,8 +32,11 @@ constexpr double Sag = 11100;
 constexpr double Ust = 10;
 constexpr double BaslikAlt = 636.5;  // between the voucher number and the first institution row
 constexpr double KurumSatirlari[] = {BaslikAlt, 905, 1445, 1712};
+constexpr double KodSol = 7300;  // the code's label, right of the institution rows' names
 constexpr double KabulAlt = 2200;
+constexpr double SayiSol = 7700;  // the numbers, right of the acceptance's dates
 constexpr double BasEtiketAlt = 2560;
+constexpr double BasSutunlari[] = {Sol, 2196, 5250, 7950, Sag};
 constexpr double TabloUst = 3100;
 // Rows kept clear under the last line: total, VAT and grand total.
 constexpr int ToplamSatirlari = 4;
@@ -65,7 +70,6 @@ double ToplamY(const FisEkrani& fis)
     return SatirY(son + 1);
 }
 
-
 // The rule above the line of the voucher standing at y.
 double SatirCizgisi(double y)
 {
@@ -76,6 +80,41 @@ double SatirCizgisi(double y)
 double AltBolumUst()
 {
     return SatirCizgisi(SatirY(Ciz::SatirSayisi + 1)) + ToplamSatirlari * Ciz::SatirAdimi;
+}
+
+using Aralik = QPair<double, double>;
+
+// The rows the totals box takes, from the line under the last line.
+Aralik ToplamBandi(const FisEkrani& fis)
+{
+    const double ust = SatirCizgisi(ToplamY(fis));
+    return {ust, ust + ToplamSatirlari * Ciz::SatirAdimi};
+}
+
+// Where the amount in words goes: its own place while the lines it stands
+// across are empty, else the line under the last line, beside the total;
+// under a voucher of 25 lines, the row of the box below the table that its
+// label leaves free.
+double HarfY(const FisEkrani& fis)
+{
+    if (!Satirda(fis, HarfSatiri) && !Satirda(fis, HarfSatiri + 1))
+        return HarfYazmaY;
+    const double y = ToplamY(fis);
+    return y <= SatirY(Ciz::SatirSayisi) ? y : SatirY(Ciz::SatirSayisi + 2);
+}
+
+// The rows the table leaves without rules for the words: the two lines they
+// stand across at their own place, one line anywhere else.
+Aralik HarfBandi(const FisEkrani& fis)
+{
+    const double y = HarfY(fis);
+    const double ust = SatirCizgisi(y);
+    return {ust, ust + (y == HarfYazmaY ? 2 : 1) * Ciz::SatirAdimi};
+}
+
+bool Kesisir(const Aralik& a, const Aralik& b)
+{
+    return a.first < b.second && b.first < a.second;
 }
 
 double BlokCizgisi(int satir)
@@ -120,9 +159,9 @@ void KurumCiz(Zemin& z)
         const double yaziAlt = ust + 300;
         Ciz::Kutu(z, Sol, ust, 2150, alt);
         SolaEtiket(z, Alan(Sol, ust, 2150, yaziAlt), adlar[i], 8, true);
-        Ciz::Kutu(z, 2150, ust, 7300, alt);
-        Ciz::Kutu(z, 7300, ust, 7950, alt);
-        SolaEtiket(z, Alan(7300, ust, 7950, yaziAlt), QStringLiteral("Kodu"), 8, true);
+        Ciz::Kutu(z, 2150, ust, KodSol, alt);
+        Ciz::Kutu(z, KodSol, ust, 7950, alt);
+        SolaEtiket(z, Alan(KodSol, ust, 7950, yaziAlt), QStringLiteral("Kodu"), 8, true);
         Ciz::Kutu(z, 7950, ust, Sag, alt);
     }
 }
@@ -134,28 +173,26 @@ void KabulCiz(Zemin& z)
     Ciz::Kutu(z, Sol, ust, 4650, KabulAlt);
     SolaEtiket(z, Alan(Sol, ust, 4650, orta), QStringLiteral("Muayene ve Kabul Komisyonu Kararının"), 8, true);
     SolaEtiket(z, Alan(Sol, orta, 4650, KabulAlt), QStringLiteral("Dayanağı Belgenin"), 8, true);
-    Ciz::Kutu(z, 4650, ust, 7700, KabulAlt);
-    Ciz::Kutu(z, 7700, ust, Sag, KabulAlt);
+    Ciz::Kutu(z, 4650, ust, SayiSol, KabulAlt);
+    Ciz::Kutu(z, SayiSol, ust, Sag, KabulAlt);
     for (double y : {ust, orta}) {
         SolaEtiket(z, Alan(4650, y, 5600, y + (orta - ust)), QStringLiteral("Tarihi :"));
-        SolaEtiket(z, Alan(7700, y, 8400, y + (orta - ust)), QStringLiteral("Sayısı :"));
+        SolaEtiket(z, Alan(SayiSol, y, 8400, y + (orta - ust)), QStringLiteral("Sayısı :"));
     }
 }
 
 void BasSatiriCiz(Zemin& z)
 {
-    const QList<double> sutunlar = {Sol, 2196, 5250, 7950, Sag};
+    const QList<double> sutunlar(std::begin(BasSutunlari), std::end(BasSutunlari));
     Ciz::Basliklar(z, sutunlar, KabulAlt, BasEtiketAlt,
                    {QStringLiteral("İşlem Türü"), QStringLiteral("Nereden Geldiği"),
                     QStringLiteral("Kime Verildiği"), QStringLiteral("Nereye Verildiği")});
     // The longest transaction name runs up to where the supplier's name
     // begins: no rule between them.
-    Ciz::Kutu(z, Sol, BasEtiketAlt, 5250, TabloUst);
-    Ciz::Kutu(z, 5250, BasEtiketAlt, 7950, TabloUst);
-    Ciz::Kutu(z, 7950, BasEtiketAlt, Sag, TabloUst);
+    Ciz::Kutu(z, Sol, BasEtiketAlt, BasSutunlari[2], TabloUst);
+    Ciz::Kutu(z, BasSutunlari[2], BasEtiketAlt, BasSutunlari[3], TabloUst);
+    Ciz::Kutu(z, BasSutunlari[3], BasEtiketAlt, Sag, TabloUst);
 }
-
-using Aralik = QPair<double, double>;
 
 // What is left of a rule from `bas` to `son` where it crosses no gap.
 QList<Aralik> Parcalar(double bas, double son, const QList<Aralik>& bosluklar)
@@ -179,10 +216,9 @@ QList<Aralik> Parcalar(double bas, double son, const QList<Aralik>& bosluklar)
 }
 
 // The lines' table, and under it room for the totals of a voucher of 25
-// lines. Two places break its grid: the amount in words, printed across lines
-// 15 and 16, and the totals box under the last line, which reaches into the
-// empty rows below it.
-void TabloCiz(Zemin& z, double toplamUst)
+// lines. Two places break its grid: the amount in words, and the totals box
+// under the last line, which reaches into the empty rows below it.
+void TabloCiz(Zemin& z, const FisEkrani& fis)
 {
     const QList<double> sutunlar(std::begin(TabloSutunlari), std::end(TabloSutunlari));
     const double govdeUst = SatirCizgisi(IlkSatirY);
@@ -193,10 +229,9 @@ void TabloCiz(Zemin& z, double toplamUst)
                     QStringLiteral("Miktarı"), QStringLiteral("Birim Fiyatı"), QStringLiteral("Tutarı")});
     Ciz::Kutu(z, Sol, govdeUst, Sag, AltBolumUst());
 
-    const double toplamAlt = toplamUst + ToplamSatirlari * Ciz::SatirAdimi;
-    Ciz::Kutu(z, ToplamSol, toplamUst, Sag, toplamAlt);
-    const Aralik toplam(toplamUst, toplamAlt);
-    const Aralik harf(SatirCizgisi(HarfYazmaY), SatirCizgisi(HarfYazmaY) + 2 * Ciz::SatirAdimi);
+    const Aralik toplam = ToplamBandi(fis);
+    Ciz::Kutu(z, ToplamSol, toplam.first, Sag, toplam.second);
+    const Aralik harf = HarfBandi(fis);
 
     for (qsizetype i = 1; i + 1 < sutunlar.size(); ++i) {
         const double x = sutunlar[i];
@@ -271,7 +306,7 @@ Zemin FisZemini(const FisEkrani& fis)
     KurumCiz(z);
     KabulCiz(z);
     BasSatiriCiz(z);
-    TabloCiz(z, SatirCizgisi(ToplamY(fis)));
+    TabloCiz(z, fis);
     ImzaCiz(z);
     Ciz::Kutu(z, Sol, Ust, Sag, ImzaAlt(), Ciz::CerceveCizgisi);
     return z;
@@ -313,7 +348,7 @@ void SatirlariYaz(Sayfa& sayfa, const FisEkrani& fis)
                 metin = Tutar2Yaz(tutar, 15);
             }
             }
-            Ciz::Yaz(sayfa, x, SatirY(i), metin, 9);
+            Ciz::Sigdir(sayfa, x, SatirY(i), metin, 9, TabloSutunlari[j + 1]);
         }
     }
 }
@@ -326,49 +361,54 @@ Sayfa FisSayfasi(const FisYazimi& yazim, const SabitSatiri& sabit)
     Sayfa sayfa;
     sayfa.zemin = FisZemini(fis);
 
-    Ciz::Yaz(sayfa, 2200, 640, Sabit(sabit, "ilAdi"), 10);
-    Ciz::Yaz(sayfa, 8000, 640, Sabit(sabit, "ilKod"), 10);
-    Ciz::Yaz(sayfa, 2200, 940, Sabit(sabit, "KurumAdi"), 10);
-    Ciz::Yaz(sayfa, 8000, 940, Sabit(sabit, "KurumKod"), 10);
-    Ciz::Yaz(sayfa, 2200, 1470, Sabit(sabit, "MuhasebeBirimiAdi"), 10);
-    Ciz::Yaz(sayfa, 8000, 1470, Sabit(sabit, "MuhasebeBirimiKod"), 10);
+    Ciz::Sigdir(sayfa, 2200, 640, Sabit(sabit, "ilAdi"), 10, KodSol);
+    Ciz::Sigdir(sayfa, 8000, 640, Sabit(sabit, "ilKod"), 10, Sag);
+    Ciz::Sigdir(sayfa, 2200, 940, Sabit(sabit, "KurumAdi"), 10, KodSol);
+    Ciz::Sigdir(sayfa, 8000, 940, Sabit(sabit, "KurumKod"), 10, Sag);
+    Ciz::Sigdir(sayfa, 2200, 1470, Sabit(sabit, "MuhasebeBirimiAdi"), 10, KodSol);
+    Ciz::Sigdir(sayfa, 8000, 1470, Sabit(sabit, "MuhasebeBirimiKod"), 10, Sag);
 
     const auto blok = [](int satir) { return BlokTabani + satir * BlokSatiri; };
-    Ciz::Yaz(sayfa, 1800, blok(2), Sabit(sabit, "AyniyatMemuru2"), 9);
-    Ciz::Yaz(sayfa, 1800, blok(3), Sabit(sabit, "AyniyatMemuru1"), 9);
-    Ciz::Yaz(sayfa, 7050, blok(2), Sabit(sabit, "AmbarMemurAd"), 9);
-    Ciz::Yaz(sayfa, 7050, blok(3), Sabit(sabit, "AmbarMemur"), 9);
-    Ciz::Yaz(sayfa, 1800, blok(4), Sabit(sabit, "AmbarMemurAd"), 9);
-    Ciz::Yaz(sayfa, 1800, blok(5), Sabit(sabit, "AmbarMemur"), 9);
-    Ciz::Yaz(sayfa, 7800, blok(4), fis.TeslimAlan, 9);
+    Ciz::Sigdir(sayfa, 1800, blok(2), Sabit(sabit, "AyniyatMemuru2"), 9, AltBolumOrtasi);
+    Ciz::Sigdir(sayfa, 1800, blok(3), Sabit(sabit, "AyniyatMemuru1"), 9, AltBolumOrtasi);
+    Ciz::Sigdir(sayfa, 7050, blok(2), Sabit(sabit, "AmbarMemurAd"), 9, Sag);
+    Ciz::Sigdir(sayfa, 7050, blok(3), Sabit(sabit, "AmbarMemur"), 9, Sag);
+    Ciz::Sigdir(sayfa, 1800, blok(4), Sabit(sabit, "AmbarMemurAd"), 9, AltBolumOrtasi);
+    Ciz::Sigdir(sayfa, 1800, blok(5), Sabit(sabit, "AmbarMemur"), 9, AltBolumOrtasi);
+    Ciz::Sigdir(sayfa, 7800, blok(4), fis.TeslimAlan, 9, Sag);
 
     Ciz::Yaz(sayfa, 8800, 320, FisYazimiKurali::CinsIsareti(fis.FCins, fis) + u'-' + fis.FisNo, 14);
 
     Ciz::Yaz(sayfa, 6700, 370, fis.Tarih, 11);
     Ciz::Yaz(sayfa, 5600, 1730, fis.KabulTarih, 11);
-    Ciz::Yaz(sayfa, 8400, 1730, fis.KabulSayi, 11);
+    Ciz::Sigdir(sayfa, 8400, 1730, fis.KabulSayi, 11, Sag);
     Ciz::Yaz(sayfa, 5600, 1730 + BlokSatiri, fis.Hucre(1, FisSutun::BelgeTarih), 11);
-    Ciz::Yaz(sayfa, 8400, 1730 + BlokSatiri, fis.BelgeSayi, 11);
+    Ciz::Sigdir(sayfa, 8400, 1730 + BlokSatiri, fis.BelgeSayi, 11, Sag);
 
     Ciz::Yaz(sayfa, 150, BasSatiriY, yazim.IslemAd, 11);
     if (fis.FCins == u"G")
-        Ciz::Yaz(sayfa, 2200, BasSatiriY, fis.NeredenGeldigi.left(24), 11);
-    Ciz::Yaz(sayfa, 5300, BasSatiriY, fis.Hucre(1, FisSutun::KimeVerildigi), 11);
+        Ciz::Sigdir(sayfa, 2200, BasSatiriY, fis.NeredenGeldigi.left(24), 11, BasSutunlari[2]);
+    Ciz::Sigdir(sayfa, 5300, BasSatiriY, fis.Hucre(1, FisSutun::KimeVerildigi), 11, BasSutunlari[3]);
     if (yazim.UniteAd2 != u"false")
-        Ciz::Yaz(sayfa, 8000, BasSatiriY, yazim.UniteAd2, 11);
+        Ciz::Sigdir(sayfa, 8000, BasSatiriY, yazim.UniteAd2, 11, Sag);
 
     Ciz::Yaz(sayfa, 500, 9750, yazim.ACIKLAMA_B, 9);
-    Ciz::Yaz(sayfa, 300, HarfYazmaY, yazim.HarfYazma, 9);
+    // Beside the totals box the words end where it begins.
+    const double harfSag = Kesisir(HarfBandi(fis), ToplamBandi(fis)) ? ToplamSol : Sag;
+    Ciz::Sigdir(sayfa, 300, HarfY(fis), yazim.HarfYazma, 9, harfSag);
 
     SatirlariYaz(sayfa, fis);
 
     QString tutar = yazim.Text3;
-    Ciz::Yaz(sayfa, ToplamX, ToplamY(fis), QStringLiteral("    Toplam : ") + SagaDaya(tutar, 15), 9);
+    Ciz::Sigdir(sayfa, ToplamX, ToplamY(fis), QStringLiteral("    Toplam : ") + SagaDaya(tutar, 15), 9, Sag);
 
+    // A quantity of many digits would run into its label: it moves on past it.
     for (const auto& [etiketX, miktarX] : {std::pair(2140.0, 2470.0), std::pair(7150.0, 7480.0)}) {
         QString miktar = yazim.Text2;
+        SagaDaya(miktar, 15);
         Ciz::Yaz(sayfa, etiketX, MiktarToplamiY, QStringLiteral("Miktar"), 10, true);
-        Ciz::Yaz(sayfa, miktarX, MiktarToplamiY, SagaDaya(miktar, 15), 10, true);
+        Ciz::Yaz(sayfa, Ciz::Ardindan(sayfa.yazilar.last(), miktarX, miktar, 10, true), MiktarToplamiY, miktar, 10,
+                 true);
     }
     return sayfa;
 }
@@ -380,12 +420,13 @@ void FisKdvYaz(Sayfa& sayfa, const FisYazimi& yazim, const QString& kdvTutari)
         throw Hata(QStringLiteral("KDV Tutarı bir sayı olmalı: ") + kdvTutari);
 
     const double kdvY = ToplamY(yazim.fis) + Ciz::SatirAdimi;
-    Ciz::Sil(sayfa, ToplamX, kdvY);
+    Ciz::Sil(sayfa, ToplamX, kdvY, 9);
     QVariant yuvarlanmis = FisToplam::Yuvarla(*kdv, 2);
-    Ciz::Yaz(sayfa, ToplamX, kdvY, QStringLiteral("    KDV. ...  : ") + Tutar2YazTek(yuvarlanmis, 15), 9);
+    Ciz::Sigdir(sayfa, ToplamX, kdvY, QStringLiteral("    KDV. ...  : ") + Tutar2YazTek(yuvarlanmis, 15), 9, Sag);
 
     const double genelY = kdvY + 2 * BlokSatiri;
-    Ciz::Sil(sayfa, GenelToplamX, genelY);
+    Ciz::Sil(sayfa, GenelToplamX, genelY, 10, true);
     QVariant genelToplam = Val(VirgulNokta(yazim.Text3)) + Val(VirgulNokta(kdvTutari));
-    Ciz::Yaz(sayfa, GenelToplamX, genelY, QStringLiteral("G.Toplam : ") + Tutar2YazTek(genelToplam, 15), 10, true);
+    Ciz::Sigdir(sayfa, GenelToplamX, genelY, QStringLiteral("G.Toplam : ") + Tutar2YazTek(genelToplam, 15), 10,
+                Sag, true);
 }

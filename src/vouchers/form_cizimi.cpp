@@ -3,12 +3,26 @@
 #include <QFontMetricsF>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
+constexpr double NoktaTwip = TwipInc / 72;
+
+QFontMetricsF Olcu(double punto, bool kalin)
+{
+    return QFontMetricsF(YaziFontu(punto, kalin));
+}
+
 QFontMetricsF Olcu(const SayfaYazisi& yazi)
 {
-    return QFontMetricsF(YaziFontu(yazi.punto, yazi.kalin));
+    return Olcu(yazi.punto, yazi.kalin);
+}
+
+// Where the letters of a line of `punto` text put at y stand.
+double Taban(double y, double punto, bool kalin)
+{
+    return y + Olcu(punto, kalin).ascent();
 }
 
 // What a rule covers on paper: its pen reaches half its width past the line
@@ -65,10 +79,42 @@ void FormCizimi::Yaz(Sayfa& sayfa, double x, double y, const QString& metin, dou
     sayfa.yazilar.append(yazi);
 }
 
-void FormCizimi::Sil(Sayfa& sayfa, double x, double y)
+void FormCizimi::Sigdir(Sayfa& sayfa, double x, double y, const QString& metin, double punto, double sag, bool kalin)
 {
+    // The thicker of the rules a box can end at.
+    const double yer = sag - CerceveCizgisi / 2 - x;
+    const double genislik = Olcu(punto, kalin).horizontalAdvance(metin);
+    if (genislik <= yer) {
+        Yaz(sayfa, x, y, metin, punto, kalin);
+        return;
+    }
+    // Widths grow with the size, which the font takes in whole twips; the
+    // rounding of the advances may ask for a twip less.
+    const int enKucuk = qRound(EnKucukPunto * NoktaTwip);
+    int boy = qMax(enKucuk, int(std::floor(punto * NoktaTwip * yer / genislik)));
+    while (boy > enKucuk && Olcu(boy / NoktaTwip, kalin).horizontalAdvance(metin) > yer)
+        --boy;
+    const QFontMetricsF olcu = Olcu(boy / NoktaTwip, kalin);
+    Yaz(sayfa, x, Taban(y, punto, kalin) - olcu.ascent(), olcu.elidedText(metin, Qt::ElideRight, yer),
+        boy / NoktaTwip, kalin);
+}
+
+double FormCizimi::Ardindan(const SayfaYazisi& onceki, double x, const QString& metin, double punto, bool kalin)
+{
+    SayfaYazisi yazi = onceki;
+    yazi.x = x;
+    yazi.metin = metin;
+    yazi.punto = punto;
+    yazi.kalin = kalin;
+    const double bosluk = Olcu(punto, kalin).horizontalAdvance(u' ');
+    return x + qMax(0.0, MurekkepAlani(onceki).right() + bosluk - MurekkepAlani(yazi).left());
+}
+
+void FormCizimi::Sil(Sayfa& sayfa, double x, double y, double punto, bool kalin)
+{
+    const double taban = Taban(y, punto, kalin);
     sayfa.yazilar.removeIf([&](const SayfaYazisi& yazi) {
-        return qAbs(yazi.x - x) <= 0.5 && qAbs(yazi.y - y) <= 0.5;
+        return qAbs(yazi.x - x) <= 0.5 && qAbs(Taban(yazi.y, yazi.punto, yazi.kalin) - taban) <= 0.5;
     });
 }
 
@@ -117,9 +163,7 @@ void FormCizimi::Govde(Zemin& zemin, const QList<double>& sutunlar, double ust, 
 
 double FormCizimi::CizgiUstu(double y, double adim, double punto)
 {
-    SayfaYazisi ornek;
-    ornek.punto = punto;
-    const QFontMetricsF olcu = Olcu(ornek);
+    const QFontMetricsF olcu = Olcu(punto, false);
     return y - (adim - (olcu.ascent() + olcu.descent())) / 2;
 }
 

@@ -20,12 +20,23 @@ inline constexpr double InceCizgi = 7;
 // Around a whole form.
 inline constexpr double CerceveCizgisi = 15;
 
+// A value too wide for its box is set smaller down to this size, and only
+// then cut: smaller letters no longer read on paper.
+inline constexpr double EnKucukPunto = 6;
+
 // Puts a text with the top-left corner of its line at (x, y). An empty text
 // leaves nothing, as Print does.
 void Yaz(Sayfa& sayfa, double x, double y, const QString& metin, double punto, bool kalin = false);
-// Takes away the texts standing at (x, y): the forms blanked a place before
-// printing over it again.
-void Sil(Sayfa& sayfa, double x, double y);
+// As Yaz, for a value whose box ends at the rule at `sag`: one that would
+// reach the rule is set smaller, on the baseline it would have had, down to
+// EnKucukPunto; at that size it is cut and ends with "…".
+void Sigdir(Sayfa& sayfa, double x, double y, const QString& metin, double punto, double sag, bool kalin = false);
+// Where a text put at x on the line of `onceki` goes for its letters to
+// start a blank's width after that text's: x itself when they do already.
+double Ardindan(const SayfaYazisi& onceki, double x, const QString& metin, double punto, bool kalin = false);
+// Takes away the texts put at (x, y) in the size `punto`, set smaller or not:
+// the forms blanked a place before printing over it again.
+void Sil(Sayfa& sayfa, double x, double y, double punto, bool kalin = false);
 
 void Kutu(Zemin& zemin, double sol, double ust, double sag, double alt, double kalinlik = InceCizgi);
 void Yatay(Zemin& zemin, double y, double sol, double sag, double kalinlik = InceCizgi);

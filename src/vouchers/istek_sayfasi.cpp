@@ -20,20 +20,24 @@ constexpr int FormSatiri = 38;
 constexpr double ToplamAlt = 11560;
 constexpr double ImzaTabani = 13000;
 constexpr double ImzaAdimi = 212;
+constexpr double BlokOrtasi = 5560;  // between the two signature blocks
+constexpr double BelgeSol = 7300;  // the slip's number and date, right of the title and the unit
+// The lines' columns, each edge just left of where its texts begin.
+constexpr double Sutunlar[] = {Sol, 710, 2380, 5980, 7180, 8880, Sag};
 
 Zemin IstekZemini()
 {
     Zemin z;
 
-    Ciz::Basliklar(z, {Sol, 7300}, 40, 620, {u"TAŞINIR İSTEK BELGESİ"_s}, 13);
-    Ciz::Basliklar(z, {7300, 8660}, 40, 640, {u"Belge No"_s});
+    Ciz::Basliklar(z, {Sol, BelgeSol}, 40, 620, {u"TAŞINIR İSTEK BELGESİ"_s}, 13);
+    Ciz::Basliklar(z, {BelgeSol, 8660}, 40, 640, {u"Belge No"_s});
     Ciz::Kutu(z, 8660, 40, Sag, 640);
-    Ciz::Basliklar(z, {7300, 8660}, 640, 980, {u"Tarih"_s});
+    Ciz::Basliklar(z, {BelgeSol, 8660}, 640, 980, {u"Tarih"_s});
     Ciz::Kutu(z, 8660, 640, Sag, 980);
     Ciz::Basliklar(z, {Sol, 1610}, 620, 980, {u"İsteyen Birim"_s});
-    Ciz::Kutu(z, 1610, 620, 7300, 980);
+    Ciz::Kutu(z, 1610, 620, BelgeSol, 980);
 
-    const QList<double> sutunlar = {Sol, 710, 2380, 5980, 7180, 8880, Sag};
+    const QList<double> sutunlar(std::begin(Sutunlar), std::end(Sutunlar));
     const double govdeUst = Ciz::CizgiUstu(IlkSatirY, Ciz::SatirAdimi, 9);
     const double govdeAlt = govdeUst + FormSatiri * Ciz::SatirAdimi;
     Ciz::Basliklar(z, sutunlar, 980, govdeUst,
@@ -51,7 +55,7 @@ Zemin IstekZemini()
     {
         double sol, etiketSag, sag;
         QString baslik, son;
-    } bloklar[] = {{Sol, 1030, 5560, u"İSTEYEN / TESLİM ALAN"_s, u"Tarih"_s},
+    } bloklar[] = {{Sol, 1030, BlokOrtasi, u"İSTEYEN / TESLİM ALAN"_s, u"Tarih"_s},
                    {5600, 7430, Sag, u"ONAYLAYAN / TESLİM EDEN"_s, u"Unvanı"_s}};
     for (const auto& b : bloklar) {
         Ciz::Basliklar(z, {b.sol, b.sag}, satirUst - 300, satirUst, {b.baslik});
@@ -85,14 +89,14 @@ Sayfa IstekSayfasi(const FisYazimi& yazim, const SabitSatiri& sabit)
     Sayfa s;
     s.zemin = IstekZemini();
 
-    Ciz::Yaz(s, 1050, ImzaTabani + ImzaAdimi, fis.TeslimAlan.left(26), 9);
+    Ciz::Sigdir(s, 1050, ImzaTabani + ImzaAdimi, fis.TeslimAlan.left(26), 9, BlokOrtasi);
     Ciz::Yaz(s, 1050, ImzaTabani + 4 * ImzaAdimi, fis.Tarih, 9);
-    Ciz::Yaz(s, 7450, ImzaTabani + ImzaAdimi, sabit.value(u"AyniyatMemuru2"_s), 9);
-    Ciz::Yaz(s, 7450, ImzaTabani + 4 * ImzaAdimi, sabit.value(u"AyniyatMemuru1"_s), 9);
+    Ciz::Sigdir(s, 7450, ImzaTabani + ImzaAdimi, sabit.value(u"AyniyatMemuru2"_s), 9, Sag);
+    Ciz::Sigdir(s, 7450, ImzaTabani + 4 * ImzaAdimi, sabit.value(u"AyniyatMemuru1"_s), 9, Sag);
 
     Ciz::Yaz(s, 8700, 280, FisYazimiKurali::CinsIsareti(fis.Hangi, fis) + u'-' + fis.FisNo, 14);
     Ciz::Yaz(s, 8700, 670, fis.Tarih, 12);
-    Ciz::Yaz(s, 1650, 650, IsteyenBirim(yazim.UniteAd2), 12);
+    Ciz::Sigdir(s, 1650, 650, IsteyenBirim(yazim.UniteAd2), 12, BelgeSol);
     QString toplam = yazim.Text2;
     Ciz::Yaz(s, 7950, 11310, SagaDaya(toplam, 15), 10);
 
@@ -106,12 +110,12 @@ Sayfa IstekSayfasi(const FisYazimi& yazim, const SabitSatiri& sabit)
         QVariant miktar = cikan;
         const QString istenen = Tutar2Yaz(miktar, 9);
         Ciz::Yaz(s, 180, y, QString::number(sayac), 9);
-        Ciz::Yaz(s, 730, y, fis.Hucre(i, FisSutun::HesapKod).left(16), 9);
-        Ciz::Yaz(s, 2400, y, fis.Hucre(i, FisSutun::Ozellik).left(36), 9);
-        Ciz::Yaz(s, 6000, y, fis.Hucre(i, FisSutun::Birimi).left(7), 9);
-        Ciz::Yaz(s, 7200, y, istenen, 9);
+        Ciz::Sigdir(s, 730, y, fis.Hucre(i, FisSutun::HesapKod).left(16), 9, Sutunlar[2]);
+        Ciz::Sigdir(s, 2400, y, fis.Hucre(i, FisSutun::Ozellik).left(36), 9, Sutunlar[3]);
+        Ciz::Sigdir(s, 6000, y, fis.Hucre(i, FisSutun::Birimi).left(7), 9, Sutunlar[4]);
+        Ciz::Sigdir(s, 7200, y, istenen, 9, Sutunlar[5]);
         // A voucher has one outgoing quantity: the delivered column repeats it.
-        Ciz::Yaz(s, 8900, y, istenen, 9);
+        Ciz::Sigdir(s, 8900, y, istenen, 9, Sag);
     }
     return s;
 }

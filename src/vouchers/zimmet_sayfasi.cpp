@@ -21,6 +21,12 @@ constexpr double EdenAdY = 10750;
 constexpr double EdenAdimi = 250;
 constexpr double EtiketPuntosu = 7;
 constexpr double ImzaYeri = 450;
+constexpr double KodSol = 5400;  // the code's label, right of the institution's names
+constexpr double EdenSag = 5200;  // the one who hands over, left of the receiver
+constexpr double AlanSag = 9500;  // the receiver's values, left of his signature
+constexpr double YetkiliSag = 8200;  // the right edge of the officer's block
+// The lines' columns, each edge just left of where its texts begin.
+constexpr double Sutunlar[] = {Sol, 730, 3230, 6680, 7570, 8600, Sag};
 
 QRectF Alan(double sol, double ust, double sag, double alt)
 {
@@ -76,15 +82,15 @@ Zemin ZimmetZemini()
         Ciz::Kutu(z, Sol, s.ust, 2060, s.alt);
         Ciz::Etiket(z, Alan(Sol + 20, s.ust, 2045, s.alt), s.ad, 8, true, Qt::AlignLeft | Qt::AlignVCenter);
         if (s.kodlu) {
-            Ciz::Kutu(z, 2060, s.ust, 5400, s.alt);
-            Ciz::Basliklar(z, {5400, 6460}, s.ust, s.alt, {u"Kodu"_s});
+            Ciz::Kutu(z, 2060, s.ust, KodSol, s.alt);
+            Ciz::Basliklar(z, {KodSol, 6460}, s.ust, s.alt, {u"Kodu"_s});
             Ciz::Kutu(z, 6460, s.ust, Sag, s.alt);
         } else {
             Ciz::Kutu(z, 2060, s.ust, Sag, s.alt);
         }
     }
 
-    const QList<double> sutunlar = {Sol, 730, 3230, 6680, 7570, 8600, Sag};
+    const QList<double> sutunlar(std::begin(Sutunlar), std::end(Sutunlar));
     const double govdeUst = Ciz::CizgiUstu(IlkSatirY, Ciz::SatirAdimi, 9);
     Ciz::Basliklar(
         z, sutunlar, 2010, govdeUst,
@@ -101,25 +107,25 @@ Zemin ZimmetZemini()
     Ciz::Kutu(z, 6860, 9740, 8600, 10060);
 
     const double edenUst = Ciz::CizgiUstu(EdenAdY, EdenAdimi, 10);
-    ImzaBlogu(z, Sol, 780, 5200, 10480, edenUst, EdenAdimi, u"TESLİM EDEN"_s);
+    ImzaBlogu(z, Sol, 780, EdenSag, 10480, edenUst, EdenAdimi, u"TESLİM EDEN"_s);
 
     // The receiver's name and date come at places of their own; he signs
     // in a column beside them.
     const double alanAd = edenUst + EdenAdimi;
     const double alanTarih = alanAd + EdenAdimi;
     const double alanAlt = alanTarih + ImzaYeri;
-    Ciz::Basliklar(z, {5200, Sag}, 10480, edenUst, {u"TESLİM ALAN"_s});
-    Ciz::Yatay(z, alanAd, 5200, 9500);
-    Ciz::Yatay(z, alanTarih, 5200, 9500);
+    Ciz::Basliklar(z, {EdenSag, Sag}, 10480, edenUst, {u"TESLİM ALAN"_s});
+    Ciz::Yatay(z, alanAd, EdenSag, AlanSag);
+    Ciz::Yatay(z, alanTarih, EdenSag, AlanSag);
     Ciz::Dikey(z, 6230, edenUst, alanAlt);
-    Ciz::Kutu(z, 9500, edenUst, Sag, alanAlt);
-    Ciz::Etiket(z, Alan(9500, edenUst, Sag, alanAd), u"İmza"_s, EtiketPuntosu);
-    SatirEtiketi(z, 5200, edenUst, 6230, alanAd, u"Unvanı"_s);
-    SatirEtiketi(z, 5200, alanAd, 6230, alanTarih, u"Adı Soyadı"_s);
-    SatirEtiketi(z, 5200, alanTarih, 6230, alanAlt, u"Tarih"_s);
-    Ciz::Kutu(z, 5200, 10480, Sag, alanAlt, Ciz::CerceveCizgisi);
+    Ciz::Kutu(z, AlanSag, edenUst, Sag, alanAlt);
+    Ciz::Etiket(z, Alan(AlanSag, edenUst, Sag, alanAd), u"İmza"_s, EtiketPuntosu);
+    SatirEtiketi(z, EdenSag, edenUst, 6230, alanAd, u"Unvanı"_s);
+    SatirEtiketi(z, EdenSag, alanAd, 6230, alanTarih, u"Adı Soyadı"_s);
+    SatirEtiketi(z, EdenSag, alanTarih, 6230, alanAlt, u"Tarih"_s);
+    Ciz::Kutu(z, EdenSag, 10480, Sag, alanAlt, Ciz::CerceveCizgisi);
 
-    ImzaBlogu(z, 3000, 4780, 8200, 11750, Ciz::CizgiUstu(ImzaTabani + ImzaAdimi, ImzaAdimi, 9), ImzaAdimi,
+    ImzaBlogu(z, 3000, 4780, YetkiliSag, 11750, Ciz::CizgiUstu(ImzaTabani + ImzaAdimi, ImzaAdimi, 9), ImzaAdimi,
               u"TAŞINIR KAYIT VE KONTROL YETKİLİSİ"_s);
     return z;
 }
@@ -132,21 +138,21 @@ Sayfa ZimmetSayfasi(const FisYazimi& yazim, const SabitSatiri& sabit)
     Sayfa s;
     s.zemin = ZimmetZemini();
 
-    Ciz::Yaz(s, 2100, 940, sabit.value(u"ilAdi"_s), 10);
-    Ciz::Yaz(s, 6500, 940, sabit.value(u"ilKod"_s), 10);
-    Ciz::Yaz(s, 2100, 1180, sabit.value(u"KurumAdi"_s), 10);
-    Ciz::Yaz(s, 6500, 1180, sabit.value(u"KurumKod"_s), 10);
-    Ciz::Yaz(s, 2100, 1490, fis.Hucre(1, FisSutun::KimeVerildigi), 10);
+    Ciz::Sigdir(s, 2100, 940, sabit.value(u"ilAdi"_s), 10, KodSol);
+    Ciz::Sigdir(s, 6500, 940, sabit.value(u"ilKod"_s), 10, Sag);
+    Ciz::Sigdir(s, 2100, 1180, sabit.value(u"KurumAdi"_s), 10, KodSol);
+    Ciz::Sigdir(s, 6500, 1180, sabit.value(u"KurumKod"_s), 10, Sag);
+    Ciz::Sigdir(s, 2100, 1490, fis.Hucre(1, FisSutun::KimeVerildigi), 10, Sag);
     if (yazim.UniteAd2 != "false"_L1)
-        Ciz::Yaz(s, 2100, 1770, yazim.UniteAd2, 10);
+        Ciz::Sigdir(s, 2100, 1770, yazim.UniteAd2, 10, Sag);
     Ciz::Yaz(s, 6900, 9800, fis.Tarih, 10);
-    Ciz::Yaz(s, 800, EdenAdY, sabit.value(u"AyniyatMemuru2"_s), 10);
-    Ciz::Yaz(s, 800, EdenAdY + EdenAdimi, sabit.value(u"AyniyatMemuru1"_s), 10);
-    Ciz::Yaz(s, 6250, 11000, fis.TeslimAlan.left(24), 10);
+    Ciz::Sigdir(s, 800, EdenAdY, sabit.value(u"AyniyatMemuru2"_s), 10, EdenSag);
+    Ciz::Sigdir(s, 800, EdenAdY + EdenAdimi, sabit.value(u"AyniyatMemuru1"_s), 10, EdenSag);
+    Ciz::Sigdir(s, 6250, 11000, fis.TeslimAlan.left(24), 10, AlanSag);
 
     Ciz::Yaz(s, 7100, 11400, fis.Tarih, 9);
-    Ciz::Yaz(s, 4800, ImzaTabani + ImzaAdimi, sabit.value(u"AyniyatMemuru2"_s), 9);
-    Ciz::Yaz(s, 4800, ImzaTabani + 2 * ImzaAdimi, sabit.value(u"AyniyatMemuru1"_s), 9);
+    Ciz::Sigdir(s, 4800, ImzaTabani + ImzaAdimi, sabit.value(u"AyniyatMemuru2"_s), 9, YetkiliSag);
+    Ciz::Sigdir(s, 4800, ImzaTabani + 2 * ImzaAdimi, sabit.value(u"AyniyatMemuru1"_s), 9, YetkiliSag);
 
     Ciz::Yaz(s, 1100, 600, FisYazimiKurali::CinsIsareti(fis.FCins, fis) + u'-' + fis.FisNo, 14);
     Ciz::Yaz(s, 6900, 600, fis.Tarih, 11);
@@ -159,11 +165,11 @@ Sayfa ZimmetSayfasi(const FisYazimi& yazim, const SabitSatiri& sabit)
         ++sayac;
         const double y = IlkSatirY + (sayac - 1) * Ciz::SatirAdimi;
         Ciz::Yaz(s, 80, y, QString::number(sayac), 9);
-        Ciz::Yaz(s, 750, y, FisYazimiKurali::SicilYazisi(fis, i, sayac), 9);
-        Ciz::Yaz(s, 3260, y, fis.Hucre(i, FisSutun::Ozellik).left(35), 9);
-        Ciz::Yaz(s, 7600, y, fis.Hucre(i, FisSutun::Birimi).left(7), 9);
+        Ciz::Sigdir(s, 750, y, FisYazimiKurali::SicilYazisi(fis, i, sayac), 9, Sutunlar[2]);
+        Ciz::Sigdir(s, 3260, y, fis.Hucre(i, FisSutun::Ozellik).left(35), 9, Sutunlar[3]);
+        Ciz::Sigdir(s, 7600, y, fis.Hucre(i, FisSutun::Birimi).left(7), 9, Sutunlar[5]);
         // What came in on an entry voucher, what went out on an issue voucher.
-        Ciz::Yaz(s, 6700, y, SayiMetni(FisYazimiKurali::Miktar(fis, i)), 9);
+        Ciz::Sigdir(s, 6700, y, SayiMetni(FisYazimiKurali::Miktar(fis, i)), 9, Sutunlar[4]);
     }
     return s;
 }

@@ -49,16 +49,20 @@ FisYazimi yazim(const QString& cins, const QList<QStringList>& satirlar)
     return y;
 }
 
-// Every line the form holds, with values as long as real ones come.
+// Wider than any field a slip prints.
+const QString genis = u"Ş"_s + QString(49, u'W');
+
+// Every line the form holds, each field at the longest the record keeps, in
+// wide letters; odd lines have the longest register number.
 FisYazimi dolu()
 {
     QList<QStringList> satirlar;
     for (int i = 1; i <= 25; ++i)
-        satirlar.append(satir(u"255 01 02 0%1"_s.arg(i, 2, 10, QChar(u'0')),
-                              u"Masaüstü Bilgisayar Intel Core i7 16 GB"_s, u"1250"_s, u"12345.75"_s, u"KİLOGRAM"_s,
-                              u"Hasan Hüseyin Karagöz"_s));
+        satirlar.append(satir(i % 2 ? u"25501020010203040506"_s : genis.left(20), genis.left(30),
+                              u"99999999999999"_s, u"99999999999999"_s, i % 2 ? u"KİLOGRAM"_s : genis.left(7),
+                              genis.left(30)));
     FisYazimi y = yazim(u"G"_s, satirlar);
-    y.UniteAd2 = u"Bilgi İşlem Dairesi Başkanlığı"_s, y.Text2 = u"308643,75"_s;
+    y.fis.TeslimAlan = genis, y.UniteAd2 = genis.left(30), y.Text2 = u"99999999999999"_s;
     return y;
 }
 
@@ -251,7 +255,10 @@ private slots:
     void yerlesim()
     {
         QFETCH(SayfaYapici, yapici);
-        const Sayfa s = yapici(dolu(), sabit);
+        SabitSatiri genisSabit = sabit;
+        for (QString& deger : genisSabit)
+            deger = genis;
+        const Sayfa s = yapici(dolu(), genisSabit);
         QVERIFY(s.yazilar.size() > 100);
         QVERIFY(FormCizimi::YerindeOlmayanlar(s).isEmpty());
         QVERIFY(FormCizimi::Cakisanlar(s).isEmpty());

@@ -1019,10 +1019,7 @@ void dusumleriYaz(Veritabani& genel, Veritabani& ayniyat)
         const qsizetype sayi = std::min<qsizetype>(adaylar.size(), enCokSatir);
         for (qsizetype i = 0; i < sayi; ++i) {
             const QStringList& aday = adaylar.at(i * adaylar.size() / sayi);
-            QStringList satir(DusumSutun::Sayi);
-            const QMap<int, QString> secilen = DusumListesi::SecilenSatir(genel, aday.mid(0, 10));
-            for (auto it = secilen.cbegin(); it != secilen.cend(); ++it)
-                satir[it.key()] = it.value();
+            QStringList satir = DusumListesi::GridSatiri(DusumListesi::SecilenSatir(genel, aday.mid(0, 10)));
             satir[DusumSutun::Miktar] = aday.at(10);
             d.Satirlar << satir;
         }

@@ -118,6 +118,14 @@ QMap<int, QString> SecilenSatir(Veritabani& genel, const QStringList& satir)
     };
 }
 
+QStringList GridSatiri(const QMap<int, QString>& hucreler)
+{
+    QStringList satir(DusumSutun::Sayi);
+    for (auto it = hucreler.cbegin(); it != hucreler.cend(); ++it)
+        satir[it.key()] = it.value();
+    return satir;
+}
+
 void MalzemeYazdir(Yazici& p, const Izgara& izgara)
 {
     p.Print({QStringLiteral("  Makbuz Kayıtları Listesi    ") + Saat::Bugun().toString(QStringLiteral("dd.MM.yyyy"))});

@@ -50,6 +50,8 @@ const QList<int>& MalzemeGenislikleri();
 // current row, by DusumSutun column; the class name comes from GENEL.MDB.
 // The quantity is left to the user.
 QMap<int, QString> SecilenSatir(Veritabani& genel, const QStringList& satir);
+// Those cells as a whole grid row, the others empty.
+QStringList GridSatiri(const QMap<int, QString>& hucreler);
 // The material list under its two title lines, in the small print, the
 // document ended.
 void MalzemeYazdir(Yazici& p, const Izgara& izgara);

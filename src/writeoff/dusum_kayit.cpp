@@ -57,7 +57,8 @@ QList<IzgaraSutunu> DusumKayit::Sutunlar()
         {QStringLiteral("Ünite"), 650, Liste, QStringLiteral("UniteAd"), QString()},
         {QStringLiteral(" 3.Detay Kod"), 1650, Liste, QStringLiteral("HesKod"),
          QStringLiteral(" Hesap Kod Yaz ve Enter. [...] ile Hesap Listesini Ekrana getirip, seçebilirsiniz. ")},
-        {QStringLiteral("Sınıf Adı"), 2200, Liste, QStringLiteral("Detay3"), QStringLiteral(" Malzeme Adını Yazınız. ")},
+        {QStringLiteral("Sınıf Adı"), 2200, Liste, QStringLiteral("Detay3"),
+         QStringLiteral(" Malzeme Adını Yazınız. ")},
         {QStringLiteral("Özellik-Marka"), 2000, Metin, kutu, QStringLiteral(" Malzeme Marka-Özelliğini Yazınız. ")},
         {QStringLiteral("Birimi"), 810, Metin, kutu,
          QStringLiteral(" Ölçü Birimi (Adet, Kg, Metre, Litre, Top vb.) Yazınız.  ")},
@@ -227,8 +228,8 @@ FisSatir::HareketListesi DusumKayit::HesapHareketListe(Veritabani& vt, const QSt
 
 QStringList DusumKayit::HareketBasliklari()
 {
-    return {QStringLiteral("Özellik"),  QStringLiteral("BirimFiyat"), QStringLiteral("FişNo"),
-            QStringLiteral("HesapKod"), QStringLiteral("Tarih"),      QStringLiteral("Ünite")};
+    return {QStringLiteral("Özellik"), QStringLiteral("BirimFiyat"), QStringLiteral("FişNo"),
+            QStringLiteral("HesapKod"), QStringLiteral("Tarih"), QStringLiteral("Ünite")};
 }
 
 QList<int> DusumKayit::HareketGenislikleri()
@@ -242,7 +243,8 @@ QStringList DusumKayit::KomisyonDegerleri(Veritabani& vt, const QString& alan, c
                                         QStringLiteral("UyeAdi"), QStringLiteral("UyeUnvani")};
     if (!alanlar.contains(alan))
         throw Hata(QStringLiteral("\"%1\" düşüm tutanağının komisyon alanlarından biri değil.").arg(alan));
-    QSqlQuery q = vt.Sorgu(QStringLiteral("Select ") + alan + QStringLiteral(" From DUSUM_B where Fcins = ? "), {fcins});
+    QSqlQuery q =
+        vt.Sorgu(QStringLiteral("Select ") + alan + QStringLiteral(" From DUSUM_B where Fcins = ? "), {fcins});
     QStringList degerler;
     QString onceki;
     while (q.next()) {

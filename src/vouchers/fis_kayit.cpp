@@ -9,11 +9,16 @@
 #include <QRegularExpression>
 
 
+QString SatirHucresi(const QList<QStringList>& satirlar, int satir, int sutun)
+{
+    if (satir < 1 || satir > satirlar.size())
+        return {};
+    return satirlar.at(satir - 1).value(sutun);
+}
+
 QString FisEkrani::Hucre(int satir, int sutun) const
 {
-    if (satir < 1 || satir > Satirlar.size())
-        return {};
-    return Satirlar.at(satir - 1).value(sutun);
+    return SatirHucresi(Satirlar, satir, sutun);
 }
 
 void FisEkrani::HucreYaz(int satir, int sutun, const QString& metin)
@@ -47,21 +52,6 @@ QString bugunCalismaYilinda(const QString& yil)
     return bugunMetni().left(6) + yil;
 }
 
-// The voucher number as the key of its rows. Only a whole positive number
-// is one: "12a" would read as 12 and reach another voucher.
-qint64 fisNoSayisi(const QString& fisNo)
-{
-    static const QRegularExpression rakamlar(QStringLiteral("^[0-9]+$"));
-    const QString metin = fisNo.trimmed();
-    bool tamam = rakamlar.match(metin).hasMatch();
-    const qint64 no = tamam ? metin.toLongLong(&tamam) : 0;
-    if (!tamam || no <= 0)
-        throw Hata(QStringLiteral("\"%1\" bir fiş numarası değil. Fiş numarası yalnız rakamlardan oluşan, "
-                                  "sıfırdan büyük bir sayıdır; hiçbir şey yazılmadı.")
-                       .arg(metin));
-    return no;
-}
-
 const QString fisKosulu = QStringLiteral(" where FisNo = ? and Fcins = ? and Mid(Tarih,7,4) = ? ");
 
 }
@@ -85,6 +75,31 @@ QString FisKayit::IslemAdi(int kod)
     return kod >= 1 && kod <= IslemTurleri().size() ? IslemTurleri().at(kod - 1) : QString();
 }
 
+std::optional<qint64> FisKayit::PozitifTamSayi(const QString& metin)
+{
+    static const QRegularExpression rakamlar(QStringLiteral("^[0-9]+$"));
+    const QString kirpik = metin.trimmed();
+    bool tamam = rakamlar.match(kirpik).hasMatch();
+    const qint64 sayi = tamam ? kirpik.toLongLong(&tamam) : 0;
+    if (!tamam || sayi <= 0)
+        return std::nullopt;
+    return sayi;
+}
+
+qint64 FisKayit::FisNoSayisi(const QString& fisNo)
+{
+    if (const std::optional<qint64> no = PozitifTamSayi(fisNo))
+        return *no;
+    throw Hata(QStringLiteral("\"%1\" bir fiş numarası değil. Fiş numarası yalnız rakamlardan oluşan, "
+                              "sıfırdan büyük bir sayıdır; hiçbir şey yazılmadı.")
+                   .arg(fisNo.trimmed()));
+}
+
+bool FisKayit::AyOnayi(const QString& calisAy, const std::function<bool()>& aySorusu)
+{
+    return Saat::Bugun().month() == int(Val(calisAy)) || aySorusu();
+}
+
 int FisKayit::EnSon(Veritabani& vt, const QString& fcins, const QString& yil)
 {
     return int(EnBuyukSayi(vt, QStringLiteral("FIS_B"), QStringLiteral("FisNo"),
@@ -101,10 +116,10 @@ KayitSonucu FisKayit::Kaydet(Veritabani& vt, FisEkrani& fis, const std::function
 {
     if (fis.FisNo.trimmed().isEmpty() || Val(fis.FisNo) == 0)
         return KayitSonucu::FisNoYok;
-    const qint64 no = fisNoSayisi(fis.FisNo);
+    const qint64 no = FisNoSayisi(fis.FisNo);
     if (fis.Hucre(1, FisSutun::HesapKod).isEmpty())
         return KayitSonucu::IlkSatirBos;
-    if (Saat::Bugun().month() != int(Val(fis.CalisAy)) && !aySorusu())
+    if (!AyOnayi(fis.CalisAy, aySorusu))
         return KayitSonucu::Vazgecildi;
 
     const QString yil = fis.CalisYil;
@@ -187,7 +202,7 @@ bool FisKayit::Getir(Veritabani& vt, FisEkrani& fis)
     QSqlQuery q = vt.Sorgu(QStringLiteral("Select FisNo, Tarih, KabulTarih, KabulSayi, BelgeSayi, TeslimAlan, "
                                           "NeredenGeldigi, BelgeTur From FIS_B")
                                + fisKosulu,
-                           {fisNoSayisi(fis.FisNo), fis.FCins, fis.CalisYil});
+                           {FisNoSayisi(fis.FisNo), fis.FCins, fis.CalisYil});
     if (!q.next())
         return false;
     fis.FisNo = q.value(0).toString();
@@ -209,7 +224,7 @@ FisSatirlari FisKayit::SatirlariGetir(Veritabani& ayniyat, Veritabani& genel, co
         QStringLiteral("Select Satir, HesapKod, '', Ozellik, Birimi, Miktar, BirimFiyat, BelgeTarih, Unite, "
                        "IslemTur, Cikan, KimeVerildigi, AmbarNo, KDV, OzelKod From FIS "
                        "Where FisNo = ? and Mid(Tarih,7,4) = ?  and Fcins = ? Order by Satir"),
-        {fisNoSayisi(fisNo), yil, fcins});
+        {FisNoSayisi(fisNo), yil, fcins});
     while (q.next()) {
         QStringList satir;
         for (int i = FisSutun::Sira; i <= FisSutun::OzelKod; ++i)
@@ -236,7 +251,7 @@ FisSatirlari FisKayit::SatirlariGetir(Veritabani& ayniyat, Veritabani& genel, co
 
 void FisKayit::Sil(Veritabani& vt, const FisEkrani& fis)
 {
-    const QVariantList anahtar = {fisNoSayisi(fis.FisNo), fis.Tarih.mid(6, 4), fis.FCins};
+    const QVariantList anahtar = {FisNoSayisi(fis.FisNo), fis.Tarih.mid(6, 4), fis.FCins};
     Islem islem(vt);
     vt.Calistir(QStringLiteral("Delete from FIS_B where FisNo = ? and Mid(Tarih, 7, 4) = ? and Fcins = ?"), anahtar);
     vt.Calistir(QStringLiteral("Delete from FIS where FisNo = ? and Mid(Tarih, 7, 4) = ? and Fcins = ?"), anahtar);

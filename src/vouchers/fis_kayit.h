@@ -7,8 +7,13 @@
 #include <QStringList>
 
 #include <functional>
+#include <optional>
 
 class Veritabani;
+
+// A cell of grid rows held from row 1 upward; a row or column beyond them
+// reads empty.
+QString SatirHucresi(const QList<QStringList>& satirlar, int satir, int sutun);
 
 // The voucher as the voucher screen holds it: the head's controls and the
 // grid's cells. The record operations read it and, where the save fills a
@@ -55,6 +60,18 @@ namespace FisKayit {
 // The kinds of transaction, code 1 to 19; another code has no name.
 QString IslemAdi(int kod);
 const QStringList& IslemTurleri();
+
+// A whole positive number written in digits alone, blanks around it
+// allowed; nothing for any other text: "12a" would read as 12 by Val and
+// reach another voucher.
+std::optional<qint64> PozitifTamSayi(const QString& metin);
+// The voucher number as the key of its rows; any other text is refused
+// with Hata.
+qint64 FisNoSayisi(const QString& fisNo);
+
+// The working-month question, asked through the callback when today's month
+// differs from CalisAy; true when the save goes on.
+bool AyOnayi(const QString& calisAy, const std::function<bool()>& aySorusu);
 
 // The next number for the kind in the working year.
 int EnSon(Veritabani& ayniyat, const QString& fcins, const QString& yil);

@@ -1,3 +1,4 @@
+#include "dusum_kayit.h"
 #include "fis_sayfasi.h"
 #include "fis_toplam.h"
 #include "komutlar.h"
@@ -51,7 +52,7 @@ QStringList dokum(const QString& klasor)
     QStringList liste;
     for (const char* tablo : {"Sabit", "URUN_K", "Unite_K", "Firma_K"})
         liste += satirlar(genel, QStringLiteral("select * from %1 order by rowid").arg(QLatin1String(tablo)));
-    for (const char* tablo : {"FIS_B", "FIS"})
+    for (const char* tablo : {"FIS_B", "FIS", "DUSUM_B"})
         liste += satirlar(ayniyat, QStringLiteral("select * from %1 order by rowid").arg(QLatin1String(tablo)));
     return liste;
 }
@@ -80,6 +81,7 @@ private slots:
     void doluKlasorReddedilir();
     void eksikDosyadaKomutYazmaz();
     void basilanTutarlarToplamiTutar();
+    void dusumler();
 };
 
 void TstOrnekVeri::ayniGirdiAyniSatirlar()
@@ -262,7 +264,8 @@ void TstOrnekVeri::fisKurallari_data()
     satir("satır başlığıyla aynı",
           "select count(*) from FIS f where not exists (select 1 from FIS_B b where b.FisNo = f.FisNo"
           " and b.FCins = f.FCins and b.Tarih = f.Tarih and b.BelgeSayi = f.BelgeSayi"
-          " and b.BelgeTarih = f.BelgeTarih and b.KabulSayi = f.KabulSayi and b.KabulTarih = f.KabulTarih)");
+          " and b.BelgeTarih = f.BelgeTarih and (f.FCinss = 'D' or (b.KabulSayi = f.KabulSayi"
+          " and b.KabulTarih = f.KabulTarih)))");
     satir("satırlar 1'den n'ye",
           "select count(*) from (select count(*) n, count(distinct Satir) d, min(Satir) a, max(Satir) z"
           " from FIS group by FCins, Tarih, FisNo) where n <> d or a <> 1 or z <> n or n > 25");
@@ -292,7 +295,10 @@ void TstOrnekVeri::fisKurallari_data()
     satir("belge türü listeden",
           "select count(*) from FIS_B where BelgeTur not in ('Fatura', 'Karar', 'Makbuz', 'Onay', 'Protokol',"
           " 'Sözleşme', 'Tutanak', 'İstekBelgesi', 'Diğer')");
-    satir("sabit alanlar", "select count(*) from FIS where FCinss <> '' or OzelKod <> '' or AmbarNo <> 1");
+    satir("sabit alanlar", "select count(*) from FIS where FCinss not in ('', 'D') or OzelKod <> '' or AmbarNo <> 1");
+    satir("düşülen, verilmiş dayanıklı giriş satırı",
+          "select count(*) from FIS where FCinss = 'D' and (FCins <> 'G' or HesapKod like '150%' or Unite = ''"
+          " or TarihSayi(KabulTarih) < TarihSayi(Tarih) or TarihSayi(KabulTarih) > TarihSayi(Tarih) + 20000)");
     satir("boş metin NULL değil",
           "select count(*) from FIS where Miktar is null or Cikan is null or Unite is null"
           " or KimeVerildigi is null or KabulSayi is null or FCinss is null or OzelKod is null");
@@ -438,6 +444,25 @@ void TstOrnekVeri::basilanTutarlarToplamiTutar()
         ++fisSayisi;
     }
     QVERIFY(fisSayisi > 20);
+}
+
+// One write-off in each of the two years before and one this year, each
+// finding its marked lines again; no line is marked twice.
+void TstOrnekVeri::dusumler()
+{
+    QTemporaryDir dizin;
+    Veri veri(dizin.path());
+    OrnekVeriYaz(veri, 3000);
+    const QList<QStringList> baslar =
+        veri.Ayniyat().Satirlar(QStringLiteral("select FisNo, Mid(Tarih,7,4) from DUSUM_B order by rowid"));
+    QCOMPARE(baslar, (QList<QStringList>{{"1", "2023"}, {"1", "2024"}, {"1", "2025"}}));
+    int satirlar = 0;
+    for (const QStringList& bas : baslar) {
+        const int n = int(DusumKayit::Guncelle(veri.Ayniyat(), veri.Genel(), bas[0], bas[1]).size());
+        QVERIFY(n >= 1 && n <= 3);
+        satirlar += n;
+    }
+    QCOMPARE(sayi(veri.Ayniyat(), QStringLiteral("select count(*) from FIS where FCinss = 'D'")), satirlar);
 }
 
 QTEST_MAIN(TstOrnekVeri)

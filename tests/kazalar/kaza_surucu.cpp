@@ -2,15 +2,19 @@
 // its own, or opens a folder and reports what its files hold.
 //
 //   kaza_surucu fis DIR     saves the test voucher (KazaFisNo, 25 lines)
+//   kaza_surucu dusum DIR   saves the test write-off (KazaDusumNo) over the
+//                           first KazaDusumSatiri lines of its material list
 //   kaza_surucu kopya DIR   writes the monthly safety copy
 //   kaza_surucu ac DIR      opens DIR through Veri, closes it, then prints for
 //                           every data file and monthly copy there its
 //                           integrity_check, the rows of each table and the
-//                           state of the test voucher; and every stray
-//                           ".yeni" file
+//                           state of the test voucher and write-off; and
+//                           every stray ".yeni" file
 //
 // Exit code 0 on success, 1 when the operation or the opening failed.
 
+#include "dusum_kayit.h"
+#include "dusum_listesi.h"
 #include "fis_kayit.h"
 #include "hata.h"
 #include "oturum.h"
@@ -33,6 +37,8 @@ namespace {
 // A number no voucher of the sample reaches.
 constexpr int KazaFisNo = 9001;
 constexpr int KazaSatirSayisi = 25;
+constexpr int KazaDusumNo = 9002;
+constexpr int KazaDusumSatiri = 8;
 
 void yaz(const QString& dosya, const QString& anahtar, const QString& deger)
 {
@@ -63,6 +69,35 @@ int fisKaydet(const QString& klasor)
         return 1;
     }
     std::printf("Fiş kaydedildi: %d\n", KazaFisNo);
+    return 0;
+}
+
+int dusumKaydet(const QString& klasor)
+{
+    Veri veri(klasor);
+    const QDate bugun = Saat::Bugun();
+    DusumEkrani d;
+    d.FisNo = QString::number(KazaDusumNo);
+    d.Tarih = bugun.toString(QStringLiteral("dd.MM.yyyy"));
+    d.CalisYil = QString::number(bugun.year());
+    d.CalisAy = QString::number(bugun.month());
+    d.KomisyonBaskaniAdi = QStringLiteral("Kaza Deneme");
+    d.UyeAdi = QStringLiteral("Deneme Üyesi");
+    const FisListesi::Komut liste = DusumListesi::MalzemeSorgusu({});
+    for (const QStringList& secilen : veri.Ayniyat().Satirlar(liste.sql, liste.degerler).mid(0, KazaDusumSatiri)) {
+        QStringList satir = DusumListesi::GridSatiri(DusumListesi::SecilenSatir(veri.Genel(), secilen));
+        satir[DusumSutun::Miktar] = QStringLiteral("1");
+        d.Satirlar << satir;
+    }
+    if (d.Satirlar.size() < KazaDusumSatiri) {
+        std::fprintf(stderr, "Düşülecek satır yok.\n");
+        return 1;
+    }
+    if (DusumKayit::Kaydet(veri.Ayniyat(), d, [] { return true; }) != DusumSonucu::Kaydedildi) {
+        std::fprintf(stderr, "Düşüm kaydedilmedi.\n");
+        return 1;
+    }
+    std::printf("Düşüm kaydedildi: %d\n", KazaDusumNo);
     return 0;
 }
 
@@ -127,6 +162,13 @@ bool dosyaRaporu(const QString& yol)
         }
         yaz(ad, QStringLiteral("diger_fisler"), QString::fromLatin1(ozet.result().toHex()));
     }
+    if (tablolar.contains(QStringLiteral("DUSUM_B")) && tablolar.contains(QStringLiteral("FIS"))) {
+        const QByteArray no = QByteArray::number(KazaDusumNo);
+        const QByteArray bas = "select count(*) from DUSUM_B where FisNo = " + no;
+        const QByteArray isaret = "select count(*) from FIS where FCinss = 'D' and KabulSayi = '" + no + "'";
+        yaz(ad, QStringLiteral("kaza_dusumu_basi"), sorgu(db.get(), bas.constData(), &tamam).value(0));
+        yaz(ad, QStringLiteral("kaza_dusumu_isareti"), sorgu(db.get(), isaret.constData(), &tamam).value(0));
+    }
     return tamam;
 }
 
@@ -164,12 +206,14 @@ int main(int argc, char* argv[])
     const QString islem = arg.value(1);
     const QString klasor = QDir(arg.value(2)).absolutePath();
     if (arg.size() != 3) {
-        std::fprintf(stderr, "Kullanım: kaza_surucu fis|kopya|ac KLASÖR\n");
+        std::fprintf(stderr, "Kullanım: kaza_surucu fis|dusum|kopya|ac KLASÖR\n");
         return 2;
     }
     try {
         if (islem == QLatin1String("fis"))
             return fisKaydet(klasor);
+        if (islem == QLatin1String("dusum"))
+            return dusumKaydet(klasor);
         if (islem == QLatin1String("kopya")) {
             std::printf("Kopya yazıldı: %s\n", qPrintable(Oturum::AylikKopya(klasor)));
             return 0;

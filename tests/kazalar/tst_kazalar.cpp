@@ -144,8 +144,8 @@ class TstKazalar : public QObject
         if (islem == QLatin1String("kod-plani-yukle"))
             return {QStringLiteral(TASINIR_PROGRAMI), QStringLiteral("--veri"), klasor,
                     QStringLiteral("kod-plani-yukle"), m_kodListesi};
-        if (islem == QLatin1String("fis"))
-            return {QStringLiteral(KAZA_SURUCUSU), QStringLiteral("fis"), klasor};
+        if (islem == QLatin1String("fis") || islem == QLatin1String("dusum"))
+            return {QStringLiteral(KAZA_SURUCUSU), islem, klasor};
         return {QStringLiteral(KAZA_SURUCUSU), QStringLiteral("kopya"), klasor};
     }
 
@@ -291,6 +291,7 @@ private slots:
         const QString kopyaSablonu = sablon(QStringLiteral("kopya"), kopyali, {QStringLiteral("ornek-veri")});
 
         islemEkle(QStringLiteral("fis"), ornek);
+        islemEkle(QStringLiteral("dusum"), ornek);
         islemEkle(QStringLiteral("ornek-veri"), hazir);
         islemEkle(QStringLiteral("ornek-veri-dosyasiz"), bos);
         islemEkle(QStringLiteral("kod-plani-yukle"), hazir);

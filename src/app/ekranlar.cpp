@@ -1,5 +1,6 @@
 #include "ekranlar.h"
 
+#include "dusum.h"
 #include "fis_k.h"
 #include "hesap_k.h"
 #include "malzeme_l.h"
@@ -38,19 +39,24 @@ EkranAcici tekOrnek(std::function<void(Form&)> kur = {},
 
 void EkranlariTanimla(Menu& menu)
 {
-    // The voucher screen's class look-ups are read again when the class or
-    // the unit screen closes, so that what was just defined can be chosen.
+    // The class look-ups of the voucher and write-off screens are read again
+    // when the class or the unit screen closes, so that what was just
+    // defined can be chosen.
     auto fis = std::make_shared<QPointer<FIS_K>>();
-    auto listeyiYenile = [fis](QWidget& ekran) {
-        QObject::connect(&ekran, &QObject::destroyed, [fis] {
+    auto dusum = std::make_shared<QPointer<Dusum>>();
+    auto listeyiYenile = [fis, dusum](QWidget& ekran) {
+        QObject::connect(&ekran, &QObject::destroyed, [fis, dusum] {
             if (*fis)
                 (*fis)->SinifListesiYenile();
+            if (*dusum)
+                (*dusum)->Urunler();
         });
     };
 
     menu.EkranTanimla(QStringLiteral("FIS_K"),
                       tekOrnek<FIS_K>([fis](FIS_K& f) { *fis = &f; },
                                       [](FIS_K& f, const QVariantMap& kip) { f.KipAyarla(kip); }));
+    menu.EkranTanimla(QStringLiteral("Dusum"), tekOrnek<Dusum>([dusum](Dusum& d) { *dusum = &d; }));
     menu.EkranTanimla(QStringLiteral("HESAP_K"), tekOrnek<HESAP_K>());
     menu.EkranTanimla(QStringLiteral("Malzeme_L"), tekOrnek<Malzeme_L>());
     menu.EkranTanimla(QStringLiteral("SinifTani"), tekOrnek<SinifTani>(listeyiYenile));

@@ -1,4 +1,5 @@
 #include "ekranlar.h"
+#include "dusum.h"
 #include "fis_k.h"
 #include "menu.h"
 #include "saat.h"
@@ -116,10 +117,17 @@ private slots:
         menu.Giris(QStringLiteral("TF2"))->trigger();
         QVERIFY(!kabul->isVisible());
 
-        // A class defined on the class screen can be chosen once it closes.
+        // A class defined on the class screen can be chosen once it closes,
+        // on the voucher and on the write-off.
+        QTest::mouseClick(menu.Dugme(QStringLiteral("Command1")), Qt::LeftButton);
+        Dusum* dusum = acik<Dusum>();
+        QVERIFY(dusum);
+        dusum->findChild<SatirIzgarasi*>(QStringLiteral("T"))->HucreSec(1, DusumSutun::HesapKod);
+        auto* dusumKodu = dusum->findChild<QComboBox*>(QStringLiteral("HesKod"));
         fis->findChild<SatirIzgarasi*>(QStringLiteral("T"))->HucreSec(1, FisSutun::HesapKod);
         auto* hesKod = fis->findChild<QComboBox*>(QStringLiteral("HesKod"));
         const int once = hesKod->count();
+        QCOMPARE(dusumKodu->count(), once);
         {
             Veritabani& vt = veri.Baglanti(Dosya::Genel);
             vt.Calistir(QStringLiteral("insert into URUN_K (HesapKod, MalzAdi) values ('150 01 01 001', 'Kağıt')"));
@@ -129,6 +137,7 @@ private slots:
         QVERIFY(sinif);
         sinif->close();
         QTRY_COMPARE(hesKod->count(), once + 1);
+        QCOMPARE(dusumKodu->count(), once + 1);
     }
 };
 

@@ -202,6 +202,26 @@ void SatirIzgarasi::ListeDoldur(QStringListModel* liste, const QStringList& ogel
         kutu->setEditText(metin);
 }
 
+void SatirIzgarasi::Ortu(QWidget* ortu)
+{
+    m_ortu = ortu;
+    m_ortu->setGeometry(geometry());
+}
+
+void SatirIzgarasi::moveEvent(QMoveEvent* olay)
+{
+    QTableView::moveEvent(olay);
+    if (m_ortu)
+        m_ortu->setGeometry(geometry());
+}
+
+void SatirIzgarasi::resizeEvent(QResizeEvent* olay)
+{
+    QTableView::resizeEvent(olay);
+    if (m_ortu)
+        m_ortu->setGeometry(geometry());
+}
+
 QWidget* SatirIzgarasi::Editor() const
 {
     return m_editorYeri.isValid() ? indexWidget(m_editorYeri) : nullptr;

@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QPersistentModelIndex>
+#include <QPointer>
 #include <QStyledItemDelegate>
 #include <QTableView>
 
@@ -80,6 +81,10 @@ public:
     // current cell stays.
     void ListeDoldur(QStringListModel* liste, const QStringList& ogeler);
 
+    // A widget that stands over the whole grid when shown (a list of the
+    // line's movements), kept on the grid's place as the screen changes.
+    void Ortu(QWidget* ortu);
+
     // The editor over the current cell, none before a cell is current.
     QWidget* Editor() const;
     EditorTuru SutunEditoru(int sutun) const;
@@ -91,6 +96,8 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* olay) override;
+    void moveEvent(QMoveEvent* olay) override;
+    void resizeEvent(QResizeEvent* olay) override;
 
 private:
     void EditorTasi(const QModelIndex& yer);
@@ -98,4 +105,5 @@ private:
     IzgaraModeli* m_model;
     IzgaraDelegesi* m_delege;
     QPersistentModelIndex m_editorYeri;
+    QPointer<QWidget> m_ortu;
 };

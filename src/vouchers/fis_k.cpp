@@ -195,26 +195,25 @@ FIS_K::FIS_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
     auto* dugmeler2 = new QHBoxLayout;
     ana->addLayout(dugmeler1);
     ana->addLayout(dugmeler2);
-    const auto dugme = [this](QHBoxLayout* sira, QPushButton*& d, const QString& ad, const QString& baslik) {
-        d = new QPushButton(baslik, this);
-        d->setObjectName(ad);
+    const auto dugme = [this](QHBoxLayout* sira, QPushButton*& d, const char* ad, const QString& baslik) {
+        d = Adli(new QPushButton(baslik, this), ad);
         sira->addWidget(d);
     };
-    dugme(dugmeler1, cd2, QStringLiteral("cd2"), QStringLiteral("F1 Kayıt"));
-    dugme(dugmeler1, Cd4, QStringLiteral("Cd4"), QStringLiteral("F2  Yaz"));
-    dugme(dugmeler1, cd5, QStringLiteral("cd5"), QStringLiteral("F5  Sil"));
-    dugme(dugmeler1, Command2, QStringLiteral("Command2"), QStringLiteral("F6 Satırı Sil"));
-    dugme(dugmeler1, CmdKDVEkle, QStringLiteral("CmdKDVEkle"), QStringLiteral("Ctrl+F6  KDV Ekle"));
-    dugme(dugmeler1, Cyaz2, QStringLiteral("Cyaz2"), QStringLiteral("F7_ İstek "));
-    dugme(dugmeler1, Command8, QStringLiteral("Command8"), QStringLiteral("F8 Malzeme Sınıf"));
+    dugme(dugmeler1, cd2, "cd2", QStringLiteral("F1 Kayıt"));
+    dugme(dugmeler1, Cd4, "Cd4", QStringLiteral("F2  Yaz"));
+    dugme(dugmeler1, cd5, "cd5", QStringLiteral("F5  Sil"));
+    dugme(dugmeler1, Command2, "Command2", QStringLiteral("F6 Satırı Sil"));
+    dugme(dugmeler1, CmdKDVEkle, "CmdKDVEkle", QStringLiteral("Ctrl+F6  KDV Ekle"));
+    dugme(dugmeler1, Cyaz2, "Cyaz2", QStringLiteral("F7_ İstek "));
+    dugme(dugmeler1, Command8, "Command8", QStringLiteral("F8 Malzeme Sınıf"));
     dugmeler1->addStretch();
-    dugme(dugmeler2, Command6, QStringLiteral("Command6"), QStringLiteral("F9 Hesap Rapor"));
-    dugme(dugmeler2, cd3, QStringLiteral("cd3"), QStringLiteral("F10  Malzeme Liste"));
-    dugme(dugmeler2, Cmd9, QStringLiteral("Cmd9"), QStringLiteral("Shift F4 HesapYaz"));
-    dugme(dugmeler2, Liste, QStringLiteral("Liste"), QStringLiteral("Liste"));
-    dugme(dugmeler2, Zimmet, QStringLiteral("Zimmet"), QStringLiteral("Zimmet"));
+    dugme(dugmeler2, Command6, "Command6", QStringLiteral("F9 Hesap Rapor"));
+    dugme(dugmeler2, cd3, "cd3", QStringLiteral("F10  Malzeme Liste"));
+    dugme(dugmeler2, Cmd9, "Cmd9", QStringLiteral("Shift F4 HesapYaz"));
+    dugme(dugmeler2, Liste, "Liste", QStringLiteral("Liste"));
+    dugme(dugmeler2, Zimmet, "Zimmet", QStringLiteral("Zimmet"));
     dugmeler2->addStretch();
-    dugme(dugmeler2, cd8, QStringLiteral("cd8"), QStringLiteral("Çıkış"));
+    dugme(dugmeler2, cd8, "cd8", QStringLiteral("Çıkış"));
     DurumSatiriEkle(ana);
 
     // The movement list stands over the whole grid.
@@ -224,6 +223,7 @@ FIS_K::FIS_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
     L3->Basliklar(FisSatir::HareketBasliklari());
     L3->setToolTip(QStringLiteral("Liste dışında herhangibir yere tıklarsanız, Hareket Listesi Kaybolur."));
     L3->hide();
+    T->Ortu(L3);
     lblMahsup = metinKutusu(QStringLiteral("lblMahsup"));
     lblMahsup->setText(QStringLiteral(" KDV Oran :"));
     lblMahsup->setReadOnly(true);
@@ -263,7 +263,7 @@ FIS_K::FIS_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
     });
     connect(cd2, &QPushButton::clicked, this, &FIS_K::Kaydet);
     connect(cd5, &QPushButton::clicked, this, &FIS_K::Sil);
-    connect(Command2, &QPushButton::clicked, this, &FIS_K::SatirSil);
+    connect(Command2, &QPushButton::clicked, m_giris, &SatirGirisi::SatirSil);
     connect(Command8, &QPushButton::clicked, this, &FIS_K::SinifEkraniAc);
     connect(Command6, &QPushButton::clicked, this, &FIS_K::Command6Komutu);
     connect(Cmd9, &QPushButton::clicked, this, &FIS_K::HareketYazdir);
@@ -282,13 +282,13 @@ FIS_K::FIS_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
     TusTanimla(QKeySequence(Qt::Key_F2), [this] { FisYazdir(); });
     TusTanimla(QKeySequence(Qt::Key_F3), [this] { Yeni(); });
     TusTanimla(QKeySequence(Qt::Key_F5), [this] { Sil(); });
-    TusTanimla(QKeySequence(Qt::Key_F6), [this] { SatirSil(); });
+    TusTanimla(QKeySequence(Qt::Key_F6), [this] { m_giris->SatirSil(); });
     TusTanimla(QKeySequence(Qt::CTRL | Qt::Key_F6), [this] { kdvORAN2(); });
     TusTanimla(QKeySequence(Qt::Key_F7), [this] { IstekYazdir(); });
     // F8 typed in the line editor deletes the row as well.
     TusTanimla(QKeySequence(Qt::Key_F8), [this] {
         if (m_giris->TE1() && QApplication::focusWidget() == m_giris->TE1())
-            SatirSil();
+            m_giris->SatirSil();
         SinifEkraniAc();
     });
     for (const Qt::KeyboardModifiers ek : {Qt::KeyboardModifiers(), Qt::KeyboardModifiers(Qt::ShiftModifier),
@@ -296,7 +296,7 @@ FIS_K::FIS_K(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
                                            Qt::KeyboardModifiers(Qt::AltModifier)})
         TusTanimla(QKeySequence(ek | Qt::Key_F9), [this] { Command6Komutu(); });
     TusTanimla(QKeySequence(Qt::Key_F10), [this] { MalzemeListesiAc(false); });
-    TusTanimla(QKeySequence(Qt::Key_Insert), [this] { AsagiKopyala(); });
+    TusTanimla(QKeySequence(Qt::Key_Insert), [this] { m_giris->AsagiKopyala(FisSatir::AsagiKopyala); });
 
     GridHazirla();
     if (Val(Baglam().CalisYil) < 1900) {
@@ -740,14 +740,6 @@ bool FIS_K::eventFilter(QObject* nesne, QEvent* olay)
             KdvOranGizle();
         break;
     }
-    case QEvent::Move:
-    case QEvent::Resize:
-    case QEvent::Show:
-        if (nesne == T) {
-            L3->setGeometry(T->geometry());
-            L3->raise();
-        }
-        break;
     default:
         break;
     }
@@ -886,29 +878,6 @@ void FIS_K::UniteAdSecildi(const QString& ad)
     m_uniteAdlari[T->Row() - 1] = ad;
     UniteAd2 = ad;
     Label20->setText(ad);
-}
-
-void FIS_K::SatirSil()
-{
-    T->setFocus();
-    QList<QStringList> satirlar = T->Hucreler();
-    FisSatir::SatirSil(satirlar, T->Row());
-    T->HucreleriYaz(satirlar);
-}
-
-void FIS_K::AsagiKopyala()
-{
-    const int satir = T->Row();
-    const int sutun = T->Col();
-    if (satir >= FisSatir::SatirSayisi) {
-        m_giris->SatirGit(satir + 1, sutun);
-        return;
-    }
-    QList<QStringList> satirlar = T->Hucreler();
-    const bool asagi = FisSatir::AsagiKopyala(satirlar, {satir, sutun});
-    T->HucreleriYaz(satirlar);
-    if (asagi)
-        T->HucreSec(satir + 1, sutun);
 }
 
 void FIS_K::SinifEkraniAc()

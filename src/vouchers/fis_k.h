@@ -114,8 +114,6 @@ private:
     void Detay3Secildi(const QString& ad);
     void UniteAdSecildi(const QString& ad);
 
-    void SatirSil();
-    void AsagiKopyala();
     void SinifEkraniAc();
 
     void Command6Komutu();

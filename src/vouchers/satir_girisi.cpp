@@ -47,6 +47,29 @@ bool SatirGirisi::Tus(QObject* nesne, QKeyEvent* olay)
     return TE1() ? TE1Tusu(olay) : EditorTusu(olay);
 }
 
+void SatirGirisi::SatirSil()
+{
+    T->setFocus();
+    QList<QStringList> satirlar = T->Hucreler();
+    FisSatir::SatirSil(satirlar, T->Row());
+    T->HucreleriYaz(satirlar);
+}
+
+void SatirGirisi::AsagiKopyala(const std::function<bool(QList<QStringList>&, FisSatir::Hucre)>& kopya)
+{
+    const int satir = T->Row();
+    const int sutun = T->Col();
+    if (satir >= FisSatir::SatirSayisi) {
+        SatirGit(satir + 1, sutun);
+        return;
+    }
+    QList<QStringList> satirlar = T->Hucreler();
+    const bool asagi = kopya(satirlar, {satir, sutun});
+    T->HucreleriYaz(satirlar);
+    if (asagi)
+        T->HucreSec(satir + 1, sutun);
+}
+
 QString SatirGirisi::Hucre(int sutun) const
 {
     return T->TextMatrix(T->Row(), sutun);

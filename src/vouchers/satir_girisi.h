@@ -1,5 +1,7 @@
 #pragma once
 
+#include "fis_satir.h"
+
 #include <QObject>
 
 #include <functional>
@@ -44,6 +46,11 @@ public:
     // Moves the current cell; a row past the grid's last is refused with a
     // message.
     bool SatirGit(int satir, int sutun);
+    // F6 or F8: the current row leaves the grid, the rows under it move up.
+    void SatirSil();
+    // Insert: the current cell goes down by the screen's rule, and the cursor
+    // with it when the rule says so; the last row has none below.
+    void AsagiKopyala(const std::function<bool(QList<QStringList>&, FisSatir::Hucre)>& kopya);
 
 private:
     QString Hucre(int sutun) const;

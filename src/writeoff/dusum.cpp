@@ -99,25 +99,24 @@ Dusum::Dusum(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
     auto* dugmeler2 = new QHBoxLayout;
     ana->addLayout(dugmeler1);
     ana->addLayout(dugmeler2);
-    const auto dugme = [this](QHBoxLayout* sira, QPushButton*& d, const QString& ad, const QString& baslik) {
-        d = new QPushButton(baslik, this);
-        d->setObjectName(ad);
+    const auto dugme = [this](QHBoxLayout* sira, QPushButton*& d, const char* ad, const QString& baslik) {
+        d = Adli(new QPushButton(baslik, this), ad);
         sira->addWidget(d);
     };
-    dugme(dugmeler1, cd2, QStringLiteral("cd2"), QStringLiteral("F1 Kaydet"));
-    dugme(dugmeler1, Cd4, QStringLiteral("Cd4"), QStringLiteral("F2  Yaz"));
-    dugme(dugmeler1, cd1, QStringLiteral("cd1"), QStringLiteral("F3 Yeni"));
-    dugme(dugmeler1, cd5, QStringLiteral("cd5"), QStringLiteral("F6_ Sil"));
-    dugme(dugmeler1, Command2, QStringLiteral("Command2"), QStringLiteral("F8.Satırı Sil"));
+    dugme(dugmeler1, cd2, "cd2", QStringLiteral("F1 Kaydet"));
+    dugme(dugmeler1, Cd4, "Cd4", QStringLiteral("F2  Yaz"));
+    dugme(dugmeler1, cd1, "cd1", QStringLiteral("F3 Yeni"));
+    dugme(dugmeler1, cd5, "cd5", QStringLiteral("F6_ Sil"));
+    dugme(dugmeler1, Command2, "Command2", QStringLiteral("F8.Satırı Sil"));
     Command2->setToolTip(QStringLiteral("İmlecin olduğu satırı siler. Daha sonra F1 ile Kayıt yapılmalı."));
     dugmeler1->addStretch();
-    dugme(dugmeler2, Cmd9, QStringLiteral("Cmd9"), QStringLiteral("Ctrl F9 HesapYaz"));
-    dugme(dugmeler2, Command8, QStringLiteral("Command8"), QStringLiteral("F10 Malzeme Liste"));
-    dugme(dugmeler2, Cc3, QStringLiteral("Cc3"), QStringLiteral("Malzeme Ara"));
-    dugme(dugmeler2, Command3, QStringLiteral("Command3"), QStringLiteral("Liste"));
-    dugme(dugmeler2, Command6, QStringLiteral("Command6"), QStringLiteral("Ctrl F10 Hesap Rapor"));
+    dugme(dugmeler2, Cmd9, "Cmd9", QStringLiteral("Ctrl F9 HesapYaz"));
+    dugme(dugmeler2, Command8, "Command8", QStringLiteral("F10 Malzeme Liste"));
+    dugme(dugmeler2, Cc3, "Cc3", QStringLiteral("Malzeme Ara"));
+    dugme(dugmeler2, Command3, "Command3", QStringLiteral("Liste"));
+    dugme(dugmeler2, Command6, "Command6", QStringLiteral("Ctrl F10 Hesap Rapor"));
     dugmeler2->addStretch();
-    dugme(dugmeler2, cd8, QStringLiteral("cd8"), QStringLiteral("Esc_Çıkış"));
+    dugme(dugmeler2, cd8, "cd8", QStringLiteral("Esc_Çıkış"));
     DurumSatiriEkle(ana);
 
     // The movement list stands over the whole grid.
@@ -126,6 +125,7 @@ Dusum::Dusum(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
     L3->Genislikler(DusumKayit::HareketGenislikleri());
     L3->Basliklar(DusumKayit::HareketBasliklari());
     L3->hide();
+    T->Ortu(L3);
 
     for (QWidget* w : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
         if (w->focusPolicy() != Qt::NoFocus)
@@ -147,7 +147,7 @@ Dusum::Dusum(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
         Sonk();
     });
     connect(cd5, &QPushButton::clicked, this, &Dusum::Sil);
-    connect(Command2, &QPushButton::clicked, this, &Dusum::SatirSil);
+    connect(Command2, &QPushButton::clicked, m_giris, &SatirGirisi::SatirSil);
     connect(Cmd9, &QPushButton::clicked, this, &Dusum::HareketYazdir);
     connect(Command8, &QPushButton::clicked, this, &Dusum::MalzemeListesiAc);
     connect(Cc3, &QPushButton::clicked, this, &Dusum::MalzemeListesiAc);
@@ -167,12 +167,16 @@ Dusum::Dusum(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
         FisNo->setFocus();
     });
     TusTanimla(QKeySequence(Qt::Key_F6), [this] { Sil(); });
-    TusTanimla(QKeySequence(Qt::Key_F8), [this] { SatirSil(); });
+    TusTanimla(QKeySequence(Qt::Key_F8), [this] { m_giris->SatirSil(); });
     TusTanimla(QKeySequence(Qt::Key_F9),
                [this] { HareketListesi(QStringLiteral(" Seçili Hesap Yok. 2. Sütunda Hesap No belirtiniz. ")); });
     TusTanimla(QKeySequence(Qt::CTRL | Qt::Key_F9), [this] { HareketYazdir(); });
     TusTanimla(QKeySequence(Qt::Key_F10), [this] { MalzemeListesiAc(); });
-    TusTanimla(QKeySequence(Qt::Key_Insert), [this] { AsagiKopyala(); });
+    TusTanimla(QKeySequence(Qt::Key_Insert), [this] {
+        m_giris->AsagiKopyala([](QList<QStringList>& satirlar, FisSatir::Hucre hucre) {
+            return FisSatir::SatirKopyala(satirlar, hucre, DusumSutun::KDV);
+        });
+    });
 
     Temizle();
     Urunler();
@@ -428,14 +432,6 @@ bool Dusum::eventFilter(QObject* nesne, QEvent* olay)
         if (nesne == L3 && static_cast<QFocusEvent*>(olay)->reason() == Qt::MouseFocusReason)
             L3Kapat();
         break;
-    case QEvent::Move:
-    case QEvent::Resize:
-    case QEvent::Show:
-        if (nesne == T) {
-            L3->setGeometry(T->geometry());
-            L3->raise();
-        }
-        break;
     default:
         break;
     }
@@ -478,29 +474,6 @@ void Dusum::ListedenSecildi(int sutun, const QString& oge)
         HucreYaz(DusumSutun::Birimi, sinif->Birimi);
     T->setFocus();
     T->HucreSec(T->Row(), DusumSutun::Ozellik);
-}
-
-void Dusum::SatirSil()
-{
-    T->setFocus();
-    QList<QStringList> satirlar = T->Hucreler();
-    FisSatir::SatirSil(satirlar, T->Row());
-    T->HucreleriYaz(satirlar);
-}
-
-void Dusum::AsagiKopyala()
-{
-    const int satir = T->Row();
-    const int sutun = T->Col();
-    if (satir >= FisSatir::SatirSayisi) {
-        m_giris->SatirGit(satir + 1, sutun);
-        return;
-    }
-    QList<QStringList> satirlar = T->Hucreler();
-    const bool asagi = FisSatir::SatirKopyala(satirlar, {satir, sutun}, DusumSutun::KDV);
-    T->HucreleriYaz(satirlar);
-    if (asagi)
-        T->HucreSec(satir + 1, sutun);
 }
 
 void Dusum::HareketListesi(const QString& yoksa)

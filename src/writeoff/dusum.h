@@ -56,8 +56,6 @@ private:
     // Enter on the code column: the class name of a known code.
     void HesapAdGetir();
     void ListedenSecildi(int sutun, const QString& oge);
-    void SatirSil();
-    void AsagiKopyala();
 
     void HareketListesi(const QString& yoksa);
     void L3Kapat();

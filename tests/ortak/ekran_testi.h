@@ -43,6 +43,15 @@ inline QStringList IlkSutun(const ListeIzgarasi* t)
     return s;
 }
 
+// The rows of a test run once for each answer to a question: "Evet" and
+// "Hayır" in the column "cevap".
+inline void CevapSatirlari()
+{
+    QTest::addColumn<QString>("cevap");
+    QTest::newRow("evet") << QStringLiteral("Evet");
+    QTest::newRow("hayır") << QStringLiteral("Hayır");
+}
+
 template <typename Ekran>
 class EkranTesti : protected GeciciVeri
 {

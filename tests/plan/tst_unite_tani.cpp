@@ -245,12 +245,7 @@ private slots:
         QVERIFY(!durumSatiri->isVisible());
     }
 
-    void f5Siler_data()
-    {
-        QTest::addColumn<QString>("cevap");
-        QTest::newRow("evet") << "Evet";
-        QTest::newRow("hayır") << "Hayır";
-    }
+    void f5Siler_data() { CevapSatirlari(); }
     void f5Siler()
     {
         QFETCH(QString, cevap);

@@ -129,23 +129,7 @@ private slots:
         QCOMPARE(degisti.size(), 0);
     }
 
-    void f2TemizlerVeSubeMudurunaGecer()
-    {
-        ac();
-        Tus(Qt::Key_F2);
-        for (const char* ad : {"Muhasebeci1", "Muhasebeci2", "AyniyatMemuru1", "AyniyatMemuru2", "SubeMudur1",
-                               "SubeMudur2", "KurumAdi", "CalisAy", "CalisYil"})
-            QVERIFY2(metin(QString::fromLatin1(ad)).isEmpty(), ad);
-        QCOMPARE(metin(u"KurumKod"_s), u"KurumKod Çağ"_s);
-        QCOMPARE(Odak(), u"SubeMudur1"_s);
-    }
-
-    void cevap_data()
-    {
-        QTest::addColumn<QString>("cevap");
-        QTest::newRow("evet") << "Evet";
-        QTest::newRow("hayır") << "Hayır";
-    }
+    void cevap_data() { CevapSatirlari(); }
     // F5 asks before it deletes. A missing row is offered at open and on Enter
     // in Anahtar alike, and either answer clears the boxes.
     void cevap()
@@ -153,6 +137,13 @@ private slots:
         QFETCH(QString, cevap);
         const bool evet = cevap == u"Evet";
         ac();
+        bul(u"Anahtar"_s)->setText(u"0"_s);  // no row to delete: not asked
+        {
+            ModalYanit sorulmaz(cevap);
+            Tus(Qt::Key_F5);
+            QVERIFY(!sorulmaz.Goruldu());
+        }
+        bul(u"Anahtar"_s)->setText(u"1"_s);
         {
             ModalYanit yanit(cevap);
             Tus(Qt::Key_F5);
@@ -181,25 +172,40 @@ private slots:
         QCOMPARE(Odak(), evet ? u"Muhasebeci1"_s : u"Anahtar"_s);
     }
 
-    // Enter in Anahtar reads the row saved after open; Ctrl+F9 goes back.
-    void enterYolu()
+    // Enter in Anahtar reads the row saved after open and walks the
+    // signatories, ending in SubeMudur2; Ctrl+F9 in Muhasebeci1 goes to the
+    // institution; F2 empties the names and the month and goes to SubeMudur1.
+    void tuslar()
     {
         ac(false);
         SabitKayit::Kaydet(veri().Genel(), ornek());
-        bul(u"Anahtar"_s)->setFocus();
-        Tus(Qt::Key_Return);
-        QCOMPARE(metin(u"itaAmiriAdi"_s), u"itaAmiriAd Çağ"_s);
-        for (const char* sonraki : {"Muhasebeci1", "Muhasebeci2", "AyniyatMemuru1", "AyniyatMemuru2", "SubeMudur1",
-                                    "SubeMudur2", "SubeMudur2"}) {
-            QCOMPARE(Odak(), QString::fromLatin1(sonraki));
-            Tus(Qt::Key_Return);
+        const struct
+        {
+            const char* kutu;
+            int tus;
+            Qt::KeyboardModifiers ek;
+            const char* odakta;
+        } adimlar[] = {
+            {"Anahtar", Qt::Key_Return, {}, "Muhasebeci1"},
+            {"Muhasebeci1", Qt::Key_Return, {}, "Muhasebeci2"},
+            {"Muhasebeci2", Qt::Key_Return, {}, "AyniyatMemuru1"},
+            {"AyniyatMemuru1", Qt::Key_Return, {}, "AyniyatMemuru2"},
+            {"AyniyatMemuru2", Qt::Key_Return, {}, "SubeMudur1"},
+            {"SubeMudur1", Qt::Key_Return, {}, "SubeMudur2"},
+            {"SubeMudur2", Qt::Key_Return, {}, "SubeMudur2"},
+            {"Muhasebeci2", Qt::Key_F9, Qt::ControlModifier, "Muhasebeci2"},
+            {"Muhasebeci1", Qt::Key_F9, Qt::ControlModifier, "KurumAdi"},
+            {"KurumAdi", Qt::Key_F2, {}, "SubeMudur1"},
+        };
+        for (const auto& a : adimlar) {
+            bul(QString::fromLatin1(a.kutu))->setFocus();
+            Tus(a.tus, a.ek);
+            QCOMPARE(Odak(), QString::fromLatin1(a.odakta));
         }
-        bul(u"Muhasebeci2"_s)->setFocus();
-        Tus(Qt::Key_F9, Qt::ControlModifier);
-        QCOMPARE(Odak(), u"Muhasebeci2"_s);
-        bul(u"Muhasebeci1"_s)->setFocus();
-        Tus(Qt::Key_F9, Qt::ControlModifier);
-        QCOMPARE(Odak(), u"KurumAdi"_s);
+        for (const char* ad : {"Muhasebeci1", "Muhasebeci2", "AyniyatMemuru1", "AyniyatMemuru2", "SubeMudur1",
+                               "SubeMudur2", "KurumAdi", "CalisAy", "CalisYil"})
+            QVERIFY2(metin(QString::fromLatin1(ad)).isEmpty(), ad);
+        QCOMPARE(metin(u"itaAmiriAdi"_s) + u'|' + metin(u"KurumKod"_s), u"itaAmiriAd Çağ|KurumKod Çağ"_s);
     }
 };
 

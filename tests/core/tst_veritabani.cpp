@@ -1,4 +1,5 @@
 #include "dosyalar_arasi.h"
+#include "gecici_veri.h"
 #include "hata_metni.h"
 #include "saat.h"
 #include "sema.h"
@@ -16,7 +17,7 @@
 
 using namespace Qt::StringLiterals;
 
-class TstVeritabani : public QObject
+class TstVeritabani : public QObject, protected GeciciVeri
 {
     Q_OBJECT
 
@@ -40,7 +41,11 @@ class TstVeritabani : public QObject
     }
 
 private slots:
-    void init() { Saat::Ayarla(QDate(2026, 3, 14)); }
+    void init()
+    {
+        Saat::Ayarla(QDate(2026, 3, 14));
+        Yenile();
+    }
     void cleanup() { Saat::Ayarla({}); }
 
     void yeniKlasorHerDosyayiTablolariylaKurar()
@@ -229,9 +234,7 @@ private slots:
 
     void islemYaHepYaHic()
     {
-        QTemporaryDir tmp;
-        Veri veri(tmp.path());
-        Veritabani& vt = veri.Ayniyat();
+        Veritabani& vt = veri().Ayniyat();
         const QString hata = HataMetni<VeriHatasi>([&] {
             Islem islem(vt);
             vt.Calistir(u"insert into FIS_B (FisNo, FCins, Tarih) values (1, 'G', '01.02.2026')"_s);
@@ -250,9 +253,7 @@ private slots:
 
     void tekDegerSorgulari()
     {
-        QTemporaryDir tmp;
-        Veri veri(tmp.path());
-        Veritabani& vt = veri.Genel();
+        Veritabani& vt = veri().Genel();
         const QString t = u"Unite_K"_s, kod = u"UniteKod"_s;
         QCOMPARE(EnBuyukSayi(vt, t, kod), 0.0);
         QCOMPARE(AlanGetir(vt, t, u"UniteAd"_s), QString());
@@ -312,9 +313,7 @@ private slots:
     {
         QFETCH(QString, ifade);
         QFETCH(QVariant, beklenen);
-        QTemporaryDir tmp;
-        Veri veri(tmp.path());
-        const QVariant sonuc = tek(veri.Baglanti(Dosya::Sirket), u"select "_s + ifade);
+        const QVariant sonuc = tek(veri().Baglanti(Dosya::Sirket), u"select "_s + ifade);
         if (beklenen.typeId() == QMetaType::QString)
             QCOMPARE(sonuc.toString(), beklenen.toString());
         else
@@ -323,9 +322,7 @@ private slots:
 
     void turkceSiralamaVeEsitlik()
     {
-        QTemporaryDir tmp;
-        Veri veri(tmp.path());
-        Veritabani& vt = veri.Genel();
+        Veritabani& vt = veri().Genel();
         const QString adlar = u"zarf Üniforma çanta Cetvel ılık İğne Dosya şişe Sabun Ölçek Oyun ğ Kâğıt Kalem"_s;
         for (const QString& ad : adlar.split(u' '))
             vt.Calistir(u"insert into URUN_K (HesapKod, MalzAdi) values (?, ?)"_s, {ad, ad});
@@ -341,9 +338,7 @@ private slots:
 
     void okuyanListeYaziciyiBeklemez()
     {
-        QTemporaryDir tmp;
-        Veri veri(tmp.path());
-        Veritabani& liste = veri.Ayniyat();
+        Veritabani& liste = veri().Ayniyat();
         {
             Islem islem(liste);
             for (int i = 1; i <= 500; ++i)
@@ -368,9 +363,7 @@ private slots:
     // Both ends of the range count, the last day of the month included.
     void tarihCercevesi()
     {
-        QTemporaryDir tmp;
-        Veri veri(tmp.path());
-        Veritabani& vt = veri.Ayniyat();
+        Veritabani& vt = veri().Ayniyat();
         for (const char* t : {"31.12.2025", "01.01.2026", "15.02.2026", "28.02.2026", "01.03.2026", ""})
             vt.Calistir(u"insert into FIS (Tarih, FisNo) values (?, 1)"_s, {QString::fromLatin1(t)});
         QCOMPARE(tek(vt, u"select count(*) from FIS where TarihSayi(Tarih) >= ? and TarihSayi(Tarih) <= ?"_s,

@@ -1,3 +1,4 @@
+#include "gecici_veri.h"
 #include "hata_metni.h"
 #include "klavye.h"
 #include "menu.h"
@@ -16,12 +17,11 @@
 #include <QSettings>
 #include <QSignalSpy>
 #include <QStatusBar>
-#include <QTemporaryDir>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
 
-class TstOturum : public QObject
+class TstOturum : public QObject, protected GeciciVeri
 {
     Q_OBJECT
 
@@ -29,23 +29,27 @@ class TstOturum : public QObject
     {
         return Veritabani(yol).Satirlar(u"select count(*) from FIS_B"_s).value(0).value(0).toInt();
     }
-    static void fisEkle(Veri& veri, int no)
+    void fisEkle(int no)
     {
-        veri.Ayniyat().Calistir(u"insert into FIS_B (FisNo, FCins, Tarih) values (?, 'G', '14.03.2026')"_s, {no});
+        veri().Ayniyat().Calistir(u"insert into FIS_B (FisNo, FCins, Tarih) values (?, 'G', '14.03.2026')"_s, {no});
     }
+    QString dosya(const QString& ad) const { return QDir(klasor()).filePath(ad); }
 
 private slots:
-    void init() { Saat::Ayarla(QDate(2026, 3, 14)); }
+    void init()
+    {
+        Saat::Ayarla(QDate(2026, 3, 14));
+        Yenile();
+    }
     void cleanup() { Saat::Ayarla({}); }
 
     void parolaAyarlardanGelir()
     {
-        QTemporaryDir tmp;
-        QCOMPARE(Oturum::ParolaYazimlari(tmp.path()), (QStringList{u"Z7"_s, u"z7"_s}));
-        QSettings ayar(tmp.filePath(u"ayarlar.ini"_s), QSettings::IniFormat);
+        QCOMPARE(Oturum::ParolaYazimlari(klasor()), (QStringList{u"Z7"_s, u"z7"_s}));
+        QSettings ayar(dosya(u"ayarlar.ini"_s), QSettings::IniFormat);
         ayar.setValue(u"Giris/Parola"_s, u"iz"_s);
         ayar.sync();
-        QCOMPARE(Oturum::ParolaYazimlari(tmp.path()), (QStringList{u"İZ"_s, u"iz"_s}));
+        QCOMPARE(Oturum::ParolaYazimlari(klasor()), (QStringList{u"İZ"_s, u"iz"_s}));
     }
 
     void parolaSonHarftaGirer_data()
@@ -98,104 +102,95 @@ private slots:
     // case of its name; the live file is untouched.
     void aylikKopyaAyinKopyasiniYeniler()
     {
-        QTemporaryDir tmp;
-        Veri veri(tmp.path());
-        fisEkle(veri, 1);
-        const QString kopya = tmp.filePath(u"AYNIYAT03.MDB"_s);
-        QCOMPARE(Oturum::AylikKopya(tmp.path()), kopya);
+        fisEkle(1);
+        const QString kopya = dosya(u"AYNIYAT03.MDB"_s);
+        QCOMPARE(Oturum::AylikKopya(klasor()), kopya);
         QCOMPARE(fisSayisi(kopya), 1);
 
-        QVERIFY(QFile::rename(kopya, tmp.filePath(u"ayniyat03.mdb"_s)));
-        fisEkle(veri, 2);
-        Oturum::AylikKopya(tmp.path());
-        QCOMPARE(QDir(tmp.path()).entryList({u"AYNIYAT0*"_s}, QDir::Files, QDir::Name | QDir::IgnoreCase),
+        QVERIFY(QFile::rename(kopya, dosya(u"ayniyat03.mdb"_s)));
+        fisEkle(2);
+        Oturum::AylikKopya(klasor());
+        QCOMPARE(QDir(klasor()).entryList({u"AYNIYAT0*"_s}, QDir::Files, QDir::Name | QDir::IgnoreCase),
                  QStringList{u"ayniyat03.mdb"_s});
-        QCOMPARE(fisSayisi(tmp.filePath(u"ayniyat03.mdb"_s)), 2);
+        QCOMPARE(fisSayisi(dosya(u"ayniyat03.mdb"_s)), 2);
 
         Saat::Ayarla(QDate(2026, 11, 1));
-        Oturum::AylikKopya(tmp.path());
-        QCOMPARE(fisSayisi(tmp.filePath(u"AYNIYAT11.MDB"_s)), 2);
-        QCOMPARE(fisSayisi(tmp.filePath(u"AYNIYAT.MDB"_s)), 2);
+        Oturum::AylikKopya(klasor());
+        QCOMPARE(fisSayisi(dosya(u"AYNIYAT11.MDB"_s)), 2);
+        QCOMPARE(fisSayisi(dosya(u"AYNIYAT.MDB"_s)), 2);
     }
 
     void aylikKopyaOlmazsaEskisiKalir()
     {
-        QTemporaryDir tmp;
-        QVERIFY_THROWS_EXCEPTION(VeriHatasi, Oturum::AylikKopya(tmp.path()));
-        QVERIFY(!QFile::exists(tmp.filePath(u"AYNIYAT03.MDB"_s)));
+        QVERIFY_THROWS_EXCEPTION(VeriHatasi, Oturum::AylikKopya(klasor()));
+        QVERIFY(!QFile::exists(dosya(u"AYNIYAT03.MDB"_s)));
 
-        Veri veri(tmp.path());
-        fisEkle(veri, 1);
-        Oturum::AylikKopya(tmp.path());
+        fisEkle(1);
+        Oturum::AylikKopya(klasor());
         // A live file that is not ours cannot be copied: the old copy stays.
-        QFile bozuk(tmp.filePath(u"AYNIYAT.MDB"_s));
+        QFile bozuk(dosya(u"AYNIYAT.MDB"_s));
         QVERIFY(bozuk.open(QIODevice::WriteOnly | QIODevice::Truncate));
         bozuk.write("bozuk");
         bozuk.close();
-        const QString hata = HataMetni<VeriHatasi>([&] { Oturum::AylikKopya(tmp.path()); });
+        const QString hata = HataMetni<VeriHatasi>([&] { Oturum::AylikKopya(klasor()); });
         QVERIFY2(hata.startsWith(u"Aylık güvenlik kopyası yazılamadı; önceki kopya duruyor."_s), qPrintable(hata));
-        QCOMPARE(fisSayisi(tmp.filePath(u"AYNIYAT03.MDB"_s)), 1);
-        QVERIFY(!QFile::exists(tmp.filePath(u"AYNIYAT03.MDB.yeni"_s)));
+        QCOMPARE(fisSayisi(dosya(u"AYNIYAT03.MDB"_s)), 1);
+        QVERIFY(!QFile::exists(dosya(u"AYNIYAT03.MDB.yeni"_s)));
     }
 
     // The windowed run asks before making a missing file in a folder that
     // holds data, and then writes no monthly copy from it.
     void eksikDosyaSorulur()
     {
-        QTemporaryDir tmp;
-        { Veri veri(tmp.path()); }
-        QVERIFY(QFile::remove(tmp.filePath(u"AYNIYAT.MDB"_s)));
+        { Veri veri(klasor()); }
+        QVERIFY(QFile::remove(dosya(u"AYNIYAT.MDB"_s)));
         {
             ModalYanit hayir(u"Hayır"_s);
-            QVERIFY(!VeriAc(tmp.path()).veri);
+            QVERIFY(!VeriAc(klasor()).veri);
             QVERIFY(hayir.Metin().contains(u"AYNIYAT.MDB bulunamadı"_s));
         }
-        QVERIFY(!QFile::exists(tmp.filePath(u"AYNIYAT.MDB"_s)));
+        QVERIFY(!QFile::exists(dosya(u"AYNIYAT.MDB"_s)));
         ModalYanit evet(u"Evet"_s);
-        const AcilanVeri acilan = VeriAc(tmp.path());
+        const AcilanVeri acilan = VeriAc(klasor());
         QVERIFY(evet.Goruldu());
         QVERIFY(acilan.veri);
         QVERIFY(!acilan.kopyaYazilabilir);
-        QVERIFY(VeriAc(tmp.path()).kopyaYazilabilir);
+        QVERIFY(VeriAc(klasor()).kopyaYazilabilir);
     }
 
     // A copy that cannot be written is said, and the old one stays.
     void menuAylikKopyayiArkadaYazar()
     {
-        QTemporaryDir tmp;
-        Veri veri(tmp.path());
-        fisEkle(veri, 1);
-        Menu menu(veri);
+        fisEkle(1);
+        Menu menu(veri());
         QSignalSpy bitti(&menu, &Menu::AylikKopyaBitti);
         menu.AylikKopyaYaz();
         QVERIFY(bitti.wait());
         QCOMPARE(menu.statusBar()->currentMessage(), u"Aylık güvenlik kopyası yazıldı: AYNIYAT03.MDB"_s);
-        QCOMPARE(fisSayisi(tmp.filePath(u"AYNIYAT03.MDB"_s)), 1);
+        QCOMPARE(fisSayisi(dosya(u"AYNIYAT03.MDB"_s)), 1);
 
-        QVERIFY(QDir(tmp.path()).mkdir(u"AYNIYAT03.MDB.yeni"_s));
-        QFile(tmp.filePath(u"AYNIYAT03.MDB.yeni/x"_s)).open(QIODevice::WriteOnly);
+        QVERIFY(QDir(klasor()).mkdir(u"AYNIYAT03.MDB.yeni"_s));
+        QFile(dosya(u"AYNIYAT03.MDB.yeni/x"_s)).open(QIODevice::WriteOnly);
         ModalYanit tamam(u"OK"_s);
         menu.AylikKopyaYaz();
         QVERIFY(bitti.wait());
         QVERIFY(tamam.Goruldu());
         QCOMPARE(menu.statusBar()->currentMessage(), u"Aylık güvenlik kopyası yazılamadı."_s);
-        QCOMPARE(fisSayisi(tmp.filePath(u"AYNIYAT03.MDB"_s)), 1);
+        QCOMPARE(fisSayisi(dosya(u"AYNIYAT03.MDB"_s)), 1);
     }
 
     // The heading and the working month come from the constants; without
     // the row the menu opens empty, without a word.
     void menuSabittenOkur()
     {
-        QTemporaryDir tmp;
-        Veri veri(tmp.path());
-        veri.Genel().Calistir(u"update Sabit set KurumAdi = ?, CalisYil = 2025, CalisAy = 11"_s,
+        veri().Genel().Calistir(u"update Sabit set KurumAdi = ?, CalisYil = 2025, CalisAy = 11"_s,
                               {u"Yeşiltepe Anadolu Lisesi"_s});
-        Menu menu(veri);
+        Menu menu(veri());
         QCOMPARE(menu.windowTitle(), u"Yeşiltepe Anadolu Lisesi - Taşınır Mal Yönetimi"_s);
         QCOMPARE(menu.Baslik->text() + u'|' + menu.CalisYil->text() + u'|' + menu.CalisAy->text(),
                  u"Yeşiltepe Anadolu Lisesi|2025|11"_s);
-        veri.Genel().Calistir(u"delete from Sabit"_s);
-        Menu bos(veri);
+        veri().Genel().Calistir(u"delete from Sabit"_s);
+        Menu bos(veri());
         QCOMPARE(bos.windowTitle(), u" - Taşınır Mal Yönetimi"_s);
         QCOMPARE(bos.Baslik->text() + bos.CalisYil->text(), QString());
     }
@@ -204,9 +199,7 @@ private slots:
     // says so; defining the screen brings them to life.
     void hazirOlmayanGirislerKapali()
     {
-        QTemporaryDir tmp;
-        Veri veri(tmp.path());
-        Menu menu(veri);
+        Menu menu(veri());
         QVERIFY(!menu.Giris(u"FIS"_s) && !menu.Giris(u"CYC"_s));
         QPushButton* sabit = menu.Dugme(u"Command14"_s);
         QVERIFY(!sabit->isEnabled() && !menu.Giris(u"SB"_s)->isEnabled());
@@ -228,9 +221,7 @@ private slots:
 
     void girisKipDegerleriniYazar()
     {
-        QTemporaryDir tmp;
-        Veri veri(tmp.path());
-        Menu menu(veri);
+        Menu menu(veri());
         QList<QPair<CalismaBaglami, QVariantMap>> acilanlar;
         menu.EkranTanimla(u"FIS_K"_s, [&](const CalismaBaglami& b, const QVariantMap& kip) {
             acilanlar.append({b, kip});
@@ -255,9 +246,7 @@ private slots:
     // so and the menu stays.
     void escCikisDugmesineEnterCikar()
     {
-        QTemporaryDir tmp;
-        Veri veri(tmp.path());
-        Menu menu(veri);
+        Menu menu(veri());
         menu.show();
         QVERIFY(QTest::qWaitForWindowExposed(&menu));
         menu.CalisYil->setFocus();

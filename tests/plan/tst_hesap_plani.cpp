@@ -239,7 +239,6 @@ private slots:
         QTest::newRow("PgDn") << k << "149" << int(Qt::Key_PageDown) << "150" << "İlkmadde-Malzeme" << k << false;
         QTest::newRow("PgDn sayı değil") << k << "150 01" << int(Qt::Key_PageDown) << "150 01" << "eski" << k << true;
         QTest::newRow("PgUp") << k << "254" << int(Qt::Key_PageUp) << "253" << "Tesis-Cihazlar" << k << false;
-        QTest::newRow("PgUp 0") << k << "0" << int(Qt::Key_PageUp) << "0" << "eski" << k << false;
         QTest::newRow("BT yukarı") << k << "252" << int(BTYukari) << "253" << "Tesis-Cihazlar" << k << false;
         QTest::newRow("BT aşağı boş") << k << "" << int(BTAsagi) << "0" << "eski" << k << false;
         QTest::newRow("ad, Enter") << a << "150" << int(Qt::Key_Return) << "150" << "eski" << a << false;

@@ -130,8 +130,27 @@ private slots:
                                        "Ünite 1", "10", "Ünite 10", "2", "Ünite 2"}));
     }
 
+    void adim_data()
+    {
+        QTest::addColumn<QString>("kod");
+        QTest::addColumn<bool>("yukari");
+        QTest::addColumn<QString>("sonuc");
+        // Plain steps are rows of adimTuslari.
+        QTest::newRow("1 aşağı 0") << "1" << false << "0";
+        QTest::newRow("0 aşağı kalır") << "0" << false << "0";
+        QTest::newRow("boş yukarı kalır") << "" << true << "";
+        QTest::newRow("harf yukarı 1") << "abc" << true << "1";
+        QTest::newRow("harf aşağı kalır") << "abc" << false << "abc";
+    }
+    void adim()
+    {
+        QFETCH(QString, kod);
+        QFETCH(bool, yukari);
+        QTEST(UniteTanim::Adim(kod, yukari), "sonuc");
+    }
+
     // Page Down, Page Up, Home and the arrows of BT step the code and bring
-    // its unit; a code with no unit keeps the focus.
+    // its unit; a code with no unit empties the name and keeps the focus.
     void adimTuslari_data()
     {
         QTest::addColumn<QString>("kod");
@@ -139,13 +158,10 @@ private slots:
         QTest::addColumn<QString>("sonuc");
         QTest::newRow("PageDown") << "3" << int(Qt::Key_PageDown) << "4";
         QTest::newRow("PageUp") << "3" << int(Qt::Key_PageUp) << "2";
-        QTest::newRow("PageUp 1") << "1" << int(Qt::Key_PageUp) << "0";
-        QTest::newRow("PageUp 0") << "0" << int(Qt::Key_PageUp) << "0";
+        QTest::newRow("PageUp, birim yok") << "1" << int(Qt::Key_PageUp) << "0";
         QTest::newRow("Home") << "5" << int(Qt::Key_Home) << "1";
         QTest::newRow("BT yukarı") << "5" << int(BTYukari) << "6";
-        QTest::newRow("BT yukarı boş kalır") << "" << int(BTYukari) << "";
-        QTest::newRow("BT yukarı harf 1 olur") << "abc" << int(BTYukari) << "1";
-        QTest::newRow("BT aşağı harfte kalır") << "abc" << int(BTAsagi) << "abc";
+        QTest::newRow("BT aşağı") << "5" << int(BTAsagi) << "4";
     }
     void adimTuslari()
     {

@@ -1,7 +1,7 @@
+#include "hata_metni.h"
 #include "kod_listesi_oku.h"
 #include "kod_plani_yukle.h"
-#include "tek_deger.h"
-#include "veri_klasoru.h"
+#include "veri_hatasi.h"
 #include "veritabani.h"
 #include "veri.h"
 
@@ -17,16 +17,23 @@ class TstKodPlaniYukle : public QObject
 
     static QString dosya(const QTemporaryDir& tmp, const QByteArray& icerik)
     {
-        const QString yol = tmp.filePath(QStringLiteral("kodlar.tsv"));
+        const QString yol = tmp.filePath(u"kodlar.tsv"_s);
         QFile f(yol);
         f.open(QIODevice::WriteOnly);
         f.write(icerik);
         return yol;
     }
-
+    // The first column of every row a query gives.
+    static QStringList sutun(Veritabani& vt, const QString& sql)
+    {
+        QStringList s;
+        for (const QStringList& satir : vt.Satirlar(sql))
+            s << satir.value(0);
+        return s;
+    }
     static int say(Veritabani& vt, const QString& tablo)
     {
-        return int(ToplamAl(vt, tablo, QStringLiteral("1")));
+        return sutun(vt, u"select count(*) from "_s + tablo).value(0).toInt();
     }
 
 private slots:
@@ -34,47 +41,32 @@ private slots:
     {
         QTemporaryDir tmp;
         Veri veri(tmp.path());
-        int plan = 0;
-        {
-            Veritabani& vt = veri.Baglanti(Dosya::Genel);
-            plan = say(vt, QStringLiteral("HESAP_K"));
-        }
-        const QString yol = dosya(tmp, "150\tİlkmadde-Malzeme\n"
-                                       "\n"
-                                       "150 01\tKırtasiye ve Büro Malzemeleri\n"
-                                       "150 11\tOkul'un Özel Malzemeleri\n"
-                                       "150 11 01\tKoro Kıyafetleri\n");
-        const KodPlaniSonucu sonuc = KodPlaniYukle(veri, yol);
-        QCOMPARE(sonuc.eklenen, 2);
-        QCOMPARE(sonuc.adiDegisen, 1);
-        QCOMPARE(sonuc.ayni, 1);
+        const int plan = say(veri.Genel(), u"HESAP_K"_s);
+        const KodPlaniSonucu sonuc = KodPlaniYukle(veri, dosya(tmp, "150\tİlkmadde-Malzeme\n"
+                                                                    "\n"
+                                                                    "150 01\tKırtasiye ve Büro Malzemeleri\n"
+                                                                    "150 11\tOkul'un Özel Malzemeleri\n"
+                                                                    "150 11 01\tKoro Kıyafetleri\n"));
+        QCOMPARE(QList<int>({sonuc.eklenen, sonuc.adiDegisen, sonuc.ayni}), QList<int>({2, 1, 1}));
 
-        Veritabani& genel = veri.Baglanti(Dosya::Genel);
-        QCOMPARE(say(genel, QStringLiteral("HESAP_K")), plan + 2);
-        QCOMPARE(AlanGetir(genel, QStringLiteral("HESAP_K"), QStringLiteral("HesapAd"),
-                           QStringLiteral(" where HesapKod = ?"), {QStringLiteral("150 01")}),
-                 QStringLiteral("Kırtasiye ve Büro Malzemeleri"));
-        QCOMPARE(AlanGetir(genel, QStringLiteral("HESAP_K"), QStringLiteral("HesapAd"),
-                           QStringLiteral(" where HesapKod = ?"), {QStringLiteral("150 11")}),
-                 QStringLiteral("Okul'un Özel Malzemeleri"));
+        Veritabani& genel = veri.Genel();
+        QCOMPARE(say(genel, u"HESAP_K"_s), plan + 2);
+        QCOMPARE(sutun(genel, u"select HesapAd from HESAP_K where HesapKod in ('150 01', '150 11') order by 1"_s),
+                 QStringList({"Kırtasiye ve Büro Malzemeleri", "Okul'un Özel Malzemeleri"}));
         // The new level 2 row answers the level test the class screen makes.
-        QCOMPARE(AlanGetir(genel, QStringLiteral("HESAP_K"), QStringLiteral("HesapKod"),
-                           QStringLiteral(" where Mid(HesapKod,1,6) = ? and Mid(HesapKod,11,1) = '' and "
-                                          "Mid(HesapKod,9,1) <> ''"),
-                           {QStringLiteral("150 11")}),
-                 QStringLiteral("150 11 01"));
+        QCOMPARE(sutun(genel, u"select HesapKod from HESAP_K where Mid(HesapKod,1,6) = '150 11' and "
+                              "Mid(HesapKod,11,1) = '' and Mid(HesapKod,9,1) <> ''"_s),
+                 QStringList{"150 11 01"});
 
-        Veritabani& hk = veri.Baglanti(Dosya::HesapKod);
-        QCOMPARE(AlanGetir(hk, QStringLiteral("HesapKod2"), QStringLiteral("MalzAdi"),
-                           QStringLiteral(" where HesapKod = ?"), {QStringLiteral("150 01")}),
-                 QStringLiteral("Kırtasiye ve Büro Malzemeleri"));
-        QCOMPARE(AlanGetir(hk, QStringLiteral("HesapKod1"), QStringLiteral("Alan7"),
-                           QStringLiteral(" where Alan1 = '150' and Alan2 = '11' and Alan3 = '01' and Alan4 = ''")),
-                 QStringLiteral("Koro Kıyafetleri"));
-        QCOMPARE(AlanGetir(hk, QStringLiteral("HesapKod1"), QStringLiteral("Alan7"),
-                           QStringLiteral(" where Alan1 = '150' and Alan2 = '01' and Alan3 = ''")),
-                 QStringLiteral("Kırtasiye ve Büro Malzemeleri"));
-        QCOMPARE(say(hk, QStringLiteral("HesapKod1")), plan + 2);
+        Veritabani& hk = veri.HesapKod();
+        QCOMPARE(sutun(hk, u"select MalzAdi from HesapKod2 where HesapKod = '150 01'"_s),
+                 QStringList{"Kırtasiye ve Büro Malzemeleri"});
+        QCOMPARE(sutun(hk, u"select Alan7 from HesapKod1 where Alan1 = '150' and Alan2 = '11' and Alan3 = '01' and "
+                           "Alan4 = ''"_s),
+                 QStringList{"Koro Kıyafetleri"});
+        QCOMPARE(sutun(hk, u"select Alan7 from HesapKod1 where Alan1 = '150' and Alan2 = '01' and Alan3 = ''"_s),
+                 QStringList{"Kırtasiye ve Büro Malzemeleri"});
+        QCOMPARE(say(hk, u"HesapKod1"_s), plan + 2);
     }
 
     // The plan cannot take the codes after the reference plan took them:
@@ -117,17 +109,14 @@ private slots:
         // Valid UTF-8 up to a lead byte at the very end.
         QTest::newRow("sonda yarım UTF-8") << QByteArray("150 01\tÇ\xC3") << u"Windows-1254"_s
                                            << QStringList{u"1|150 01|Ã‡Ã"_s} << 0;
-        QTest::newRow("CR, LF, CRLF") << QByteArray("150 01\tA\r150 02\tB\r\n\r\n150 03\tC\n150 04\tD")
-                                      << u"UTF-8"_s
-                                      << QStringList{u"1|150 01|A"_s, u"2|150 02|B"_s, u"4|150 03|C"_s,
-                                                     u"5|150 04|D"_s}
+        QTest::newRow("CR, LF, CRLF") << QByteArray("150 01\tA\r150 02\tB\r\n\r\n150 03\tC\n150 04\tD") << u"UTF-8"_s
+                                      << QStringList{u"1|150 01|A"_s, u"2|150 02|B"_s, u"4|150 03|C"_s, u"5|150 04|D"_s}
                                       << 0;
         QTest::newRow("sınırda ad") << "150 01\t" + QString(50, u'ç').toUtf8() << u"UTF-8"_s
                                     << QStringList{"1|150 01|"_L1 + QString(50, u'ç')} << 0;
-        QTest::newRow("uzun adlar") << "150 01\t" + QString(51, u'ç').toUtf8() + "\n150 02\t" + QByteArray(5 << 20, 'x')
-                                    << u"UTF-8"_s
-                                    << QStringList{"1|150 01|"_L1 + QString(50, u'ç'), "2|150 02|"_L1 + QString(50, u'x')}
-                                    << 2;
+        QTest::newRow("uzun adlar")
+            << "150 01\t" + QString(51, u'ç').toUtf8() + "\n150 02\t" + QByteArray(5 << 20, 'x') << u"UTF-8"_s
+            << QStringList{"1|150 01|"_L1 + QString(50, u'ç'), "2|150 02|"_L1 + QString(50, u'x')} << 2;
     }
 
     void okur()
@@ -188,20 +177,11 @@ private slots:
         QFETCH(QString, mesaj);
         QTemporaryDir tmp;
         Veri veri(tmp.path());
-        try {
-            KodPlaniYukle(veri, dosya(tmp, icerik));
-            QFAIL("bozuk dosya yüklendi");
-        } catch (const VeriHatasi& h) {
-            QVERIFY2(h.Mesaj().startsWith(mesaj), qPrintable(h.Mesaj()));
-            QVERIFY(h.Mesaj().endsWith(QStringLiteral("Hesap planına hiçbir şey yazılmadı.")));
-        }
-        Veritabani& vt = veri.Baglanti(Dosya::Genel);
-        QCOMPARE(AlanGetir(vt, QStringLiteral("HESAP_K"), QStringLiteral("HesapAd"),
-                           QStringLiteral(" where HesapKod = ?"), {QStringLiteral("150 01")}),
-                 QStringLiteral("Kırtasiye Malzemeleri"));
-        QCOMPARE(AlanGetir(vt, QStringLiteral("HESAP_K"), QStringLiteral("HesapKod"),
-                           QStringLiteral(" where HesapKod = ?"), {QStringLiteral("150 12")}),
-                 QString());
+        const QString hata = HataMetni<VeriHatasi>([&] { KodPlaniYukle(veri, dosya(tmp, icerik)); });
+        QVERIFY2(hata.startsWith(mesaj), qPrintable(hata));
+        QVERIFY(hata.endsWith(u"Hesap planına hiçbir şey yazılmadı."_s));
+        QCOMPARE(sutun(veri.Genel(), u"select HesapAd from HESAP_K where HesapKod in ('150 01', '150 12')"_s),
+                 QStringList{"Kırtasiye Malzemeleri"});
     }
 };
 

@@ -1,19 +1,13 @@
-#include "gecici_veri.h"
-#include "etkinlestir.h"
+#include "ekran_testi.h"
 #include "cikti.h"
 #include "grid_yazdir.h"
 #include "klavye.h"
-#include "liste_izgarasi.h"
 #include "modal_yanit.h"
 #include "unite_tani.h"
 #include "unite_tanim.h"
-#include "veritabani.h"
 #include "yazici.h"
-#include "veri.h"
 
 #include <QLabel>
-#include <QLineEdit>
-#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QToolButton>
@@ -21,19 +15,13 @@
 
 using namespace Qt::StringLiterals;
 
-class TstUniteTani : public QObject, protected GeciciVeri
+class TstUniteTani : public QObject, protected EkranTesti<Unite_TANI>
 {
     Q_OBJECT
 
-    QPointer<Unite_TANI> m_ekran;
+    // The arrows of BT, in the key column of adimTuslari.
+    enum { BTYukari = -1, BTAsagi = -2 };
 
-
-    QVariant sql(const QString& komut, const QVariantList& degerler = {})
-    {
-        Veritabani& vt = veri().Baglanti(Dosya::Genel);
-        QSqlQuery q = vt.Sorgu(komut, degerler);
-        return q.next() ? q.value(0) : QVariant();
-    }
     void ekle(const QString& kod, const QString& ad)
     {
         sql(u"insert into Unite_K (UniteKod, UniteAd) values (?, ?)"_s, {kod, ad});
@@ -48,31 +36,12 @@ class TstUniteTani : public QObject, protected GeciciVeri
     {
         return sql(u"select group_concat(UniteAd, '|') from Unite_K where UniteKod = ?"_s, {kod}).toString();
     }
-
-    void ac()
-    {
-        m_ekran = new Unite_TANI({u"2026"_s, u"3"_s, u"Örnek Okulu"_s, &veri()});
-        m_ekran->show();
-        Etkinlestir(m_ekran);
-    }
-    template <typename T = QLineEdit> T* kontrol(const char* ad) const { return m_ekran->findChild<T*>(QString::fromLatin1(ad)); }
-    QString metin(const char* ad) const { return kontrol(ad)->text(); }
-    QString odak() const { return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString(); }
-    static void tus(int kod) { QTest::keyClick(QApplication::focusWidget(), Qt::Key(kod)); }
-    // The first column of the list.
-    QStringList kodlar() const
-    {
-        auto* T = kontrol<ListeIzgarasi>("T");
-        QStringList k;
-        for (int r = 1; r < T->Rows(); ++r)
-            k << T->TextMatrix(r, 0);
-        return k;
-    }
+    QStringList kodlar() const { return IlkSutun(bul<ListeIzgarasi>(u"T"_s)); }
     void kodYaz(const QString& kod)
     {
-        kontrol("UniteKod")->setFocus();
-        kontrol("UniteKod")->clear();
-        QTest::keyClicks(kontrol("UniteKod"), kod);
+        bul(u"UniteKod"_s)->setFocus();
+        bul(u"UniteKod"_s)->clear();
+        QTest::keyClicks(bul(u"UniteKod"_s), kod);
     }
 
 private slots:
@@ -143,23 +112,8 @@ private slots:
         QVERIFY(UniteTanim::Var(veri().Genel(), u" 7"_s));
     }
 
-    // Steps the screen does not show; 5 up and 0 down are in adimTuslari.
-    void adim_data()
-    {
-        QTest::addColumn<QString>("kod");
-        QTest::addColumn<bool>("yukari");
-        QTest::addColumn<QString>("sonuc");
-        QTest::newRow("boş kalır") << "" << true << "";
-        QTest::newRow("harf 1 olur") << "abc" << true << "1";
-        QTest::newRow("harfte kalır") << "abc" << false << "abc";
-    }
-    void adim()
-    {
-        QFETCH(QString, kod);
-        QFETCH(bool, yukari);
-        QTEST(UniteTanim::Adim(kod, yukari), "sonuc");
-    }
-
+    // Under the title, the units in the order of their codes as text, the
+    // one without a code left out; the grid's layout is the grid's.
     void uniteListesiYazdir()
     {
         for (const char* kod : {"2", "10", "1"})
@@ -169,25 +123,45 @@ private slots:
         Yazici p(&cikti);
         UniteTanim::UniteListesiYazdir(veri().Genel(), u"Örnek Okulu"_s, p);
         QCOMPARE(cikti.belgeler.size(), 1);
-        const Sayfa& s = cikti.belgeler[0].value(0);
-        QCOMPARE(s.MetinNerede(10 * MmTwip, 5 * MmTwip), u"Örnek Okulu - Bilet Listesi       Tarih :"_s);
-        QVERIFY(s.YaziNerede(5 * MmTwip, 15 * MmTwip)->kalin);
-        QCOMPARE(s.MetinNerede(5 * MmTwip, 25 * MmTwip), u"10"_s);
-        QCOMPARE(s.MetinNerede(5 * MmTwip + 1000, 30 * MmTwip), u"Ünite 2"_s);
-        QCOMPARE(s.yazilar.size(), 1 + 4 * 2);
+        QStringList yazilar;
+        for (const SayfaYazisi& y : cikti.belgeler[0].value(0).yazilar)
+            yazilar << y.metin;
+        QCOMPARE(yazilar, QStringList({"Örnek Okulu - Bilet Listesi       Tarih :", "Ünite Kod", "Ünite Adı", "1",
+                                       "Ünite 1", "10", "Ünite 10", "2", "Ünite 2"}));
     }
 
-    // Page Down, Page Up, Home and the arrows step the code and bring its unit.
+    void adim_data()
+    {
+        QTest::addColumn<QString>("kod");
+        QTest::addColumn<bool>("yukari");
+        QTest::addColumn<QString>("sonuc");
+        // Plain steps are rows of adimTuslari.
+        QTest::newRow("1 aşağı 0") << "1" << false << "0";
+        QTest::newRow("0 aşağı kalır") << "0" << false << "0";
+        QTest::newRow("boş yukarı kalır") << "" << true << "";
+        QTest::newRow("harf yukarı 1") << "abc" << true << "1";
+        QTest::newRow("harf aşağı kalır") << "abc" << false << "abc";
+    }
+    void adim()
+    {
+        QFETCH(QString, kod);
+        QFETCH(bool, yukari);
+        QTEST(UniteTanim::Adim(kod, yukari), "sonuc");
+    }
+
+    // Page Down, Page Up, Home and the arrows of BT step the code and bring
+    // its unit; a code with no unit empties the name and keeps the focus.
     void adimTuslari_data()
     {
         QTest::addColumn<QString>("kod");
-        QTest::addColumn<int>("tusKodu");  // 0: the up arrow of BT
+        QTest::addColumn<int>("tusKodu");
         QTest::addColumn<QString>("sonuc");
         QTest::newRow("PageDown") << "3" << int(Qt::Key_PageDown) << "4";
         QTest::newRow("PageUp") << "3" << int(Qt::Key_PageUp) << "2";
-        QTest::newRow("PageUp 0") << "0" << int(Qt::Key_PageUp) << "0";
+        QTest::newRow("PageUp, birim yok") << "1" << int(Qt::Key_PageUp) << "0";
         QTest::newRow("Home") << "5" << int(Qt::Key_Home) << "1";
-        QTest::newRow("BT") << "5" << 0 << "6";
+        QTest::newRow("BT yukarı") << "5" << int(BTYukari) << "6";
+        QTest::newRow("BT aşağı") << "5" << int(BTAsagi) << "4";
     }
     void adimTuslari()
     {
@@ -197,15 +171,15 @@ private slots:
         birimler(6);
         ac();
         kodYaz(kod);
-        kontrol("UniteAd")->setText(u"eski"_s);
-        if (tusKodu)
-            tus(tusKodu);
+        bul(u"UniteAd"_s)->setText(u"eski"_s);
+        if (tusKodu >= 0)
+            Tus(tusKodu);
         else
-            QTest::mouseClick(kontrol<QToolButton>("BTYukari"), Qt::LeftButton);
-        QCOMPARE(metin("UniteKod"), sonuc);
-        const bool var = sonuc != u"0";
-        QCOMPARE(metin("UniteAd"), var ? u"Birim "_s + sonuc : QString());
-        QCOMPARE(odak(), var ? u"UniteAd"_s : u"UniteKod"_s);
+            QTest::mouseClick(bul<QToolButton>(tusKodu == BTYukari ? u"BTYukari"_s : u"BTAsagi"_s), Qt::LeftButton);
+        QCOMPARE(metin(u"UniteKod"_s), sonuc);
+        const bool var = sonuc.toInt() > 0;
+        QCOMPARE(metin(u"UniteAd"_s), var ? u"Birim "_s + sonuc : QString());
+        QCOMPARE(Odak(), var ? u"UniteAd"_s : u"UniteKod"_s);
     }
 
     // Enter and the arrows run round the three boxes; Enter never saves, F4
@@ -219,95 +193,87 @@ private slots:
             {Qt::Key_Return, "UniteAd"}, {Qt::Key_Enter, "BiletFiyat"}, {Qt::Key_Return, "UniteKod"},
             {Qt::Key_Down, "UniteAd"}, {Qt::Key_Down, "BiletFiyat"}, {Qt::Key_Up, "UniteAd"}, {Qt::Key_Up, "UniteKod"}};
         for (const auto& [tusu, sonraki] : yol) {
-            if (odak() == u"UniteAd")
-                QTest::keyClicks(kontrol("UniteAd"), u"x"_s);
-            tus(tusu);
-            QCOMPARE(odak(), QString::fromLatin1(sonraki));
+            if (Odak() == u"UniteAd")
+                QTest::keyClicks(bul(u"UniteAd"_s), u"x"_s);
+            Tus(tusu);
+            QCOMPARE(Odak(), QString::fromLatin1(sonraki));
         }
         // Down from the code read the unit again over the first letter.
-        QCOMPARE(metin("UniteAd"), u"Birim 2xx"_s);
+        QCOMPARE(metin(u"UniteAd"_s), u"Birim 2xx"_s);
         QCOMPARE(adi(u"2"_s), u"Birim 2"_s);
         // F4 proposes a new code and empties the card.
-        kontrol("UniteAd")->setFocus();
-        kontrol("BiletFiyat")->setText(u"5"_s);
-        tus(Qt::Key_F4);
-        QCOMPARE(metin("UniteKod") + u'|' + metin("UniteAd") + metin("BiletFiyat"), u"4|"_s);
-        QCOMPARE(odak(), u"UniteKod"_s);
+        bul(u"UniteAd"_s)->setFocus();
+        bul(u"BiletFiyat"_s)->setText(u"5"_s);
+        Tus(Qt::Key_F4);
+        QCOMPARE(metin(u"UniteKod"_s) + u'|' + metin(u"UniteAd"_s) + metin(u"BiletFiyat"_s), u"4|"_s);
+        QCOMPARE(Odak(), u"UniteKod"_s);
     }
 
-    // F1 always saves, the button only with a code; neither asks.
+    // F1 always saves, the button only with a code; neither asks. A failed
+    // save shows the data error and never the success text.
     void kaydet_data()
     {
         QTest::addColumn<QString>("kod");
         QTest::addColumn<bool>("dugme");
-        QTest::addColumn<bool>("kaydedilir");
-        QTest::newRow("F1 var olan") << "2" << false << true;
-        QTest::newRow("F1 yeni") << "9" << false << true;
-        QTest::newRow("F1 kodsuz") << "" << false << true;
-        QTest::newRow("düğme") << "9" << true << true;
-        QTest::newRow("düğme kodsuz") << " " << true << false;
+        QTest::addColumn<bool>("kilitli");
+        QTest::addColumn<QString>("durum");
+        const QString basarili = u"    Kayıt Başarılı  ... "_s;
+        QTest::newRow("F1 yeni") << "9" << false << false << basarili;
+        QTest::newRow("F1 kodsuz") << "" << false << false << basarili;
+        QTest::newRow("düğme") << "9" << true << false << basarili;
+        QTest::newRow("düğme kodsuz") << " " << true << false << "";
+        QTest::newRow("F1 yazılamaz") << "9" << false << true << "  Kayıt yapılamıyor.  ";
     }
     void kaydet()
     {
         QFETCH(QString, kod);
         QFETCH(bool, dugme);
-        QFETCH(bool, kaydedilir);
+        QFETCH(bool, kilitli);
+        QFETCH(QString, durum);
+        const bool kaydedilir = durum.contains(u"Başarılı");
         birimler(3);
         ac();
+        if (kilitli)
+            sql(u"create trigger kilit before insert on Unite_K begin select raise(abort, 'kilitli'); end"_s);
         kodYaz(kod);
-        kontrol("UniteAd")->setFocus();
-        kontrol("UniteAd")->clear();
-        QVERIFY(!kontrol<QPushButton>("c2")->isEnabled());
-        TurkceYaz(kontrol("UniteAd"), u"Çağrı'nın Odası"_s);
-        QVERIFY(kontrol<QPushButton>("c2")->isEnabled());
+        bul(u"UniteAd"_s)->setFocus();
+        bul(u"UniteAd"_s)->clear();
+        QVERIFY(!bul<QPushButton>(u"c2"_s)->isEnabled());
+        TurkceYaz(bul(u"UniteAd"_s), u"Çağrı'nın Odası"_s);
+        QVERIFY(bul<QPushButton>(u"c2"_s)->isEnabled());
         ModalYanit soru(u"Evet"_s);
         if (dugme)
-            QTest::mouseClick(kontrol<QPushButton>("c2"), Qt::LeftButton);
+            QTest::mouseClick(bul<QPushButton>(u"c2"_s), Qt::LeftButton);
         else
-            tus(Qt::Key_F1);
-        QVERIFY(!soru.Goruldu());
+            Tus(Qt::Key_F1);
+        QCOMPARE(soru.Goruldu(), kilitli);
+        if (kilitli)
+            QVERIFY2(soru.Metin().startsWith(u"Veri tabanı hatası"_s), qPrintable(soru.Metin()));
         QCOMPARE(adi(kod), kaydedilir ? u"Çağrı'nın Odası"_s : QString());
-        QCOMPARE(sql(u"select count(*) from Unite_K"_s).toInt(), kod == u"2" || !kaydedilir ? 3 : 4);
-        QLabel* durum = m_ekran->DurumSatiri();
-        QCOMPARE(durum->isVisible() ? durum->text() : QString(), kaydedilir ? u"    Kayıt Başarılı  ... "_s : QString());
-        QCOMPARE(metin("UniteKod") + metin("UniteAd"), kod + u"Çağrı'nın Odası"_s);  // the card stays as it is
+        QCOMPARE(sql(u"select count(*) from Unite_K"_s).toInt(), kaydedilir ? 4 : 3);
+        QLabel* durumSatiri = m_ekran->DurumSatiri();
+        QCOMPARE(durumSatiri->isVisible() ? durumSatiri->text() : QString(), durum);
+        QCOMPARE(metin(u"UniteKod"_s) + metin(u"UniteAd"_s), kod + u"Çağrı'nın Odası"_s);  // the card stays
         // The offscreen platform makes no move events of the cursor.
-        QWidget* alan = kontrol<ListeIzgarasi>("T")->viewport();
+        QWidget* alan = bul<ListeIzgarasi>(u"T"_s)->viewport();
         QMouseEvent gecis(QEvent::MouseMove, QPointF(20, 20), alan->mapToGlobal(QPointF(20, 20)), {}, {}, {});
         QApplication::sendEvent(alan, &gecis);
-        QVERIFY(!durum->isVisible());
+        QVERIFY(!durumSatiri->isVisible());
     }
 
-    void kaydetHatasi()
-    {
-        ac();
-        sql(u"create trigger kilit before insert on Unite_K begin select raise(abort, 'kilitli'); end"_s);
-        kontrol("UniteAd")->setText(u"Depo"_s);
-        ModalYanit yanit(u"Tamam"_s);
-        tus(Qt::Key_F1);
-        QVERIFY(yanit.Metin().startsWith(u"Veri tabanı hatası"_s));
-        QCOMPARE(m_ekran->DurumSatiri()->text(), u"  Kayıt yapılamıyor.  "_s);
-    }
-
-    void f5Siler_data()
-    {
-        QTest::addColumn<QString>("cevap");
-        QTest::newRow("evet") << "Evet";
-        QTest::newRow("hayır") << "Hayır";
-    }
+    void f5Siler_data() { CevapSatirlari(); }
     void f5Siler()
     {
         QFETCH(QString, cevap);
-        const bool evet = cevap == u"Evet";
         birimler(3);
         ac();
         kodYaz(u"3"_s);
         ModalYanit yanit(cevap);
-        tus(Qt::Key_F5);
+        Tus(Qt::Key_F5);
         QCOMPARE(yanit.Metin(), u"   Bu Üniteyi silmek istiyor musunuz ?    "_s);
         QCOMPARE(yanit.Baslik(), u"Siliniyor"_s);
-        QCOMPARE(metin("UniteKod"), u"3"_s);  // proposed again after a delete
-        QCOMPARE(kodlar(), evet ? QStringList({"1", "2"}) : QStringList({"1", "2", "3"}));
+        QCOMPARE(metin(u"UniteKod"_s), u"3"_s);  // proposed again after a delete
+        QCOMPARE(kodlar(), cevap == u"Evet" ? QStringList({"1", "2"}) : QStringList({"1", "2", "3"}));
     }
 
     // Enter on a row worth more than 0, or a double click, brings its unit.
@@ -329,22 +295,18 @@ private slots:
         ekle(u"0"_s, u"Sıfır"_s);
         ac();
         // At open the code box holds the proposal, and nothing can be saved yet.
-        QCOMPARE(odak() + metin("UniteKod"), u"UniteKod3"_s);
-        QVERIFY(!kontrol<QPushButton>("c2")->isEnabled());
-        auto* T = kontrol<ListeIzgarasi>("T");
+        QCOMPARE(Odak() + metin(u"UniteKod"_s), u"UniteKod3"_s);
+        QVERIFY(!bul<QPushButton>(u"c2"_s)->isEnabled());
+        auto* T = bul<ListeIzgarasi>(u"T"_s);
         const int satir = int(kodlar().indexOf(kod)) + 1;
         T->setFocus();
         T->SatirSec(satir);
-        if (cift) {
-            const QPoint yer = T->visualRect(T->model()->index(satir - 1, 0)).center();
-            // QTest sends the second press alone; the first comes before it.
-            QTest::mouseClick(T->viewport(), Qt::LeftButton, {}, yer);
-            QTest::mouseDClick(T->viewport(), Qt::LeftButton, {}, yer);
-        } else {
-            tus(Qt::Key_Return);
-        }
-        QCOMPARE(metin("UniteKod"), getirilir ? kod : u"3"_s);
-        QCOMPARE(metin("UniteAd").isEmpty(), !getirilir);
+        if (cift)
+            CiftTikla(T, satir);
+        else
+            Tus(Qt::Key_Return);
+        QCOMPARE(metin(u"UniteKod"_s), getirilir ? kod : u"3"_s);
+        QCOMPARE(metin(u"UniteAd"_s).isEmpty(), !getirilir);
     }
 
     // The bound boxes and the order refill the list, a bound that leaves
@@ -356,21 +318,21 @@ private slots:
         ac();
         BellekCikti cikti;
         m_ekran->CiktiSec(&cikti);
-        tus(Qt::Key_F2);
-        tus(Qt::Key_F3);
+        Tus(Qt::Key_F2);
+        Tus(Qt::Key_F3);
         QVERIFY(cikti.belgeler.isEmpty());
-        QTest::keyClicks(kontrol("UniteKod1"), u"2"_s);
+        QTest::keyClicks(bul(u"UniteKod1"_s), u"2"_s);
         QCOMPARE(kodlar(), (QStringList{"2", "3", "4"}));
-        QTest::keyClicks(kontrol("UniteAd1"), u"z"_s);
+        QTest::keyClicks(bul(u"UniteAd1"_s), u"z"_s);
         QCOMPARE(kodlar(), (QStringList{"2", "3", "4"}));
-        QTest::mouseClick(kontrol<QPushButton>("CmdYaz"), Qt::LeftButton);
+        QTest::mouseClick(bul<QPushButton>(u"CmdYaz"_s), Qt::LeftButton);
         QCOMPARE(cikti.belgeler.size(), 1);
         const Sayfa& s = cikti.belgeler[0].value(0);
         QCOMPARE(s.MetinNerede(5 * MmTwip + 1000, 20 * MmTwip), u"Birim 2"_s);
         QCOMPARE(s.yazilar.size(), 1 + 4 * 2);
-        kontrol("UniteKod1")->clear();
-        kontrol("UniteAd1")->clear();
-        QTest::mouseClick(kontrol<QRadioButton>("Op2"), Qt::LeftButton);
+        bul(u"UniteKod1"_s)->clear();
+        bul(u"UniteAd1"_s)->clear();
+        QTest::mouseClick(bul<QRadioButton>(u"Op2"_s), Qt::LeftButton);
         QCOMPARE(kodlar(), (QStringList{"12", "1", "2", "3", "4"}));
     }
 };

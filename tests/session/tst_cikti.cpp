@@ -8,7 +8,6 @@
 #include <QPrinter>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QScrollBar>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -62,171 +61,132 @@ class TstCikti : public QObject
 {
     Q_OBJECT
 
-private slots:
-    void pdf();
-    void pdfYazilamaz();
-    void pdfTamam_data();
-    void pdfTamam();
-    void yaziciCikti();
-    void onizleme();
-    void gorunumBoyu_data();
-    void gorunumBoyu();
-    void gorunumKaydirir();
-    void gorunumCizer();
-
-private:
     QTemporaryDir m_klasor;
+
+private slots:
+    void pdf()
+    {
+        const QString dosya = m_klasor.filePath(u"belge.pdf"_s);
+        PdfCikti(dosya).Yaz(OrnekBelge());
+        QCOMPARE(SayfaBoylari(dosya), dikeyYatay);
+
+        const QString pdftotext = QStandardPaths::findExecutable(u"pdftotext"_s);
+        if (pdftotext.isEmpty())
+            QSKIP("pdftotext is not installed");
+        QProcess surec;
+        surec.start(pdftotext, {u"-enc"_s, u"UTF-8"_s, dosya, u"-"_s});
+        QVERIFY(surec.waitForFinished());
+        const QString metin = QString::fromUtf8(surec.readAllStandardOutput());
+        for (const QString& yazi : {turkce, u"TAŞINIR İŞLEM FİŞİ"_s, u"Yatay sayfa"_s})
+            QVERIFY2(metin.contains(yazi), qPrintable(metin));
+    }
+
+    void pdfYazilamaz()
+    {
+        PdfCikti cikti(m_klasor.filePath(u"olmayan/klasor/belge.pdf"_s));
+        QVERIFY_THROWS_EXCEPTION(YaziciHatasi, cikti.Yaz(OrnekBelge()));
+    }
+
+    void pdfTamam_data()
+    {
+        QTest::addColumn<QByteArray>("icerik");
+        QTest::addColumn<bool>("tamam");
+        QTest::newRow("tam") << QByteArray("%PDF-1.4\n1 0 obj\n%%EOF") << true;
+        QTest::newRow("sonda satır sonları") << QByteArray("%PDF-1.4\n%%EOF\r\n \n") << true;
+        QTest::newRow("boş") << QByteArray() << false;
+        QTest::newRow("yarıda kesilmiş") << QByteArray("%PDF-1.4\n%%EOF\n1 0 obj") << false;
+        QTest::newRow("başlıksız") << QByteArray("1 0 obj\n%%EOF") << false;
+    }
+    void pdfTamam()
+    {
+        QFETCH(QByteArray, icerik);
+        const QString dosya = m_klasor.filePath(u"denetlenen.pdf"_s);
+        QFile f(dosya);
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write(icerik);
+        f.close();
+        QTEST(PdfTamam(dosya), "tamam");
+    }
+
+    // The printer path, through a QPrinter that writes a file.
+    void yaziciCikti()
+    {
+        const QString dosya = m_klasor.filePath(u"yazici.pdf"_s);
+        QPrinter yazici(QPrinter::HighResolution);
+        yazici.setOutputFormat(QPrinter::PdfFormat);
+        yazici.setOutputFileName(dosya);
+        YaziciCikti cikti(yazici);
+        QVERIFY(cikti.Hazir());
+        cikti.Yaz(OrnekBelge());
+        QCOMPARE(SayfaBoylari(dosya), dikeyYatay);
+    }
+
+    // The preview shows every page and speaks Turkish once Qt's own texts are loaded.
+    void onizleme()
+    {
+        QVERIFY(QtTurkcesiniYukle(*qApp));
+        int gosterilen = -1;
+        QString baslik;
+        QTimer::singleShot(0, this, [&] {
+            if (auto* pencere = qobject_cast<QPrintPreviewDialog*>(QApplication::activeModalWidget())) {
+                gosterilen = pencere->findChild<QPrintPreviewWidget*>()->pageCount();
+                baslik = pencere->windowTitle();
+                pencere->reject();
+            }
+        });
+        OnizlemeCikti(nullptr).Yaz(OrnekBelge());
+        QCOMPARE(gosterilen, 2);
+        QCOMPARE(baslik, QCoreApplication::translate("QPrintPreviewDialog", "Print Preview"));
+        QVERIFY2(baslik != QLatin1String("Print Preview"), qPrintable(baslik));
+    }
+
+    // The sheet is its paper at the zoom, never below a tenth.
+    void gorunumBoyu_data()
+    {
+        QTest::addColumn<QPageLayout::Orientation>("yon");
+        QTest::addColumn<double>("yakinlik");
+        QTest::addColumn<double>("beklenenYakinlik");
+        QTest::addColumn<QSizeF>("mm");
+        QTest::newRow("dikey gercek boy") << QPageLayout::Portrait << 1.0 << 1.0 << QSizeF(210, 297);
+        QTest::newRow("yatay yarim") << QPageLayout::Landscape << 0.5 << 0.5 << QSizeF(297, 210);
+        QTest::newRow("sifir en kucuge") << QPageLayout::Portrait << 0.0 << 0.1 << QSizeF(210, 297);
+    }
+    void gorunumBoyu()
+    {
+        QFETCH(QPageLayout::Orientation, yon);
+        QFETCH(double, yakinlik);
+        QFETCH(double, beklenenYakinlik);
+        QFETCH(QSizeF, mm);
+        SayfaGorunumu gorunum;
+        Sayfa sayfa;
+        sayfa.yon = yon;
+        gorunum.SayfaGoster(sayfa);
+        gorunum.YakinlikAyarla(yakinlik);
+        QCOMPARE(gorunum.Yakinlik(), beklenenYakinlik);
+        const QSize boy = gorunum.widget()->size();
+        const double en = mm.width() / 25.4 * gorunum.logicalDpiX() * beklenenYakinlik;
+        const double boyu = mm.height() / 25.4 * gorunum.logicalDpiY() * beklenenYakinlik;
+        QVERIFY2(qAbs(boy.width() - en) <= 1 && qAbs(boy.height() - boyu) <= 1,
+                 qPrintable(u"%1x%2"_s.arg(boy.width()).arg(boy.height())));
+    }
+
+    // A thick rule drawn on the sheet lands where its twips say, past the margin.
+    void gorunumCizer()
+    {
+        Sayfa sayfa;
+        sayfa.zemin.cizgiler.append({QLineF(0, 1000, 6000, 1000), 120});
+        SayfaGorunumu gorunum;
+        gorunum.SayfaGoster(sayfa);
+        const QImage resim = gorunum.widget()->grab().toImage();
+        const double olcek = gorunum.logicalDpiX() / TwipInc;
+        const auto renk = [&](double x, double y) {
+            return QColor(resim.pixel(qRound((KenarTwip + x) * olcek), qRound((KenarTwip + y) * olcek)));
+        };
+        QCOMPARE(renk(3000, 1000), QColor(Qt::black));
+        QCOMPARE(renk(3000, 1300), QColor(Qt::white));
+        QCOMPARE(renk(3000, 1000 - KenarTwip), QColor(Qt::white));
+    }
 };
-
-void TstCikti::pdf()
-{
-    const QString dosya = m_klasor.filePath(u"belge.pdf"_s);
-    PdfCikti cikti(dosya);
-    cikti.Yaz(OrnekBelge());
-    QCOMPARE(SayfaBoylari(dosya), dikeyYatay);
-
-    const QString pdftotext = QStandardPaths::findExecutable(u"pdftotext"_s);
-    if (pdftotext.isEmpty())
-        QSKIP("pdftotext is not installed");
-    QProcess surec;
-    surec.start(pdftotext, {u"-enc"_s, u"UTF-8"_s, dosya, u"-"_s});
-    QVERIFY(surec.waitForFinished());
-    const QString metin = QString::fromUtf8(surec.readAllStandardOutput());
-    QVERIFY2(metin.contains(turkce), qPrintable(metin));
-    QVERIFY(metin.contains(u"TAŞINIR İŞLEM FİŞİ"_s));
-    QVERIFY(metin.contains(u"Yatay sayfa"_s));
-}
-
-void TstCikti::pdfYazilamaz()
-{
-    PdfCikti cikti(m_klasor.filePath(u"olmayan/klasor/belge.pdf"_s));
-    QVERIFY_THROWS_EXCEPTION(YaziciHatasi, cikti.Yaz(OrnekBelge()));
-}
-
-void TstCikti::pdfTamam_data()
-{
-    QTest::addColumn<QByteArray>("icerik");
-    QTest::addColumn<bool>("tamam");
-    QTest::newRow("tam") << QByteArray("%PDF-1.4\n1 0 obj\n%%EOF") << true;
-    QTest::newRow("sonda satır sonları") << QByteArray("%PDF-1.4\n%%EOF\r\n \n") << true;
-    QTest::newRow("boş") << QByteArray() << false;
-    QTest::newRow("yarıda kesilmiş") << QByteArray("%PDF-1.4\n%%EOF\n1 0 obj") << false;
-    QTest::newRow("başlıksız") << QByteArray("1 0 obj\n%%EOF") << false;
-}
-
-void TstCikti::pdfTamam()
-{
-    QFETCH(QByteArray, icerik);
-    QFETCH(bool, tamam);
-    const QString dosya = m_klasor.filePath(u"denetlenen.pdf"_s);
-    QFile f(dosya);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write(icerik);
-    f.close();
-    QCOMPARE(PdfTamam(dosya), tamam);
-}
-
-// The printer path, through a QPrinter that writes a file.
-void TstCikti::yaziciCikti()
-{
-    const QString dosya = m_klasor.filePath(u"yazici.pdf"_s);
-    QPrinter yazici(QPrinter::HighResolution);
-    yazici.setOutputFormat(QPrinter::PdfFormat);
-    yazici.setOutputFileName(dosya);
-    YaziciCikti cikti(yazici);
-    QVERIFY(cikti.Hazir());
-    cikti.Yaz(OrnekBelge());
-    QCOMPARE(SayfaBoylari(dosya), dikeyYatay);
-}
-
-// The preview speaks Turkish once Qt's own texts are loaded.
-void TstCikti::onizleme()
-{
-    QVERIFY(QtTurkcesiniYukle(*qApp));
-    int gosterilen = -1;
-    QString baslik;
-    QTimer::singleShot(0, this, [&] {
-        auto* pencere = qobject_cast<QPrintPreviewDialog*>(QApplication::activeModalWidget());
-        if (!pencere)
-            return;
-        gosterilen = pencere->findChild<QPrintPreviewWidget*>()->pageCount();
-        baslik = pencere->windowTitle();
-        pencere->reject();
-    });
-    OnizlemeCikti(nullptr).Yaz(OrnekBelge());
-    QCOMPARE(gosterilen, 2);
-    QCOMPARE(baslik, QCoreApplication::translate("QPrintPreviewDialog", "Print Preview"));
-    QVERIFY2(baslik != QLatin1String("Print Preview"), qPrintable(baslik));
-}
-
-void TstCikti::gorunumBoyu_data()
-{
-    QTest::addColumn<QPageLayout::Orientation>("yon");
-    QTest::addColumn<double>("yakinlik");
-    QTest::addColumn<double>("beklenenYakinlik");
-    QTest::addColumn<QSizeF>("mm");
-    QTest::newRow("dikey gercek boy") << QPageLayout::Portrait << 1.0 << 1.0 << QSizeF(210, 297);
-    QTest::newRow("yatay yarim") << QPageLayout::Landscape << 0.5 << 0.5 << QSizeF(297, 210);
-    QTest::newRow("sifir en kucuge") << QPageLayout::Portrait << 0.0 << 0.1 << QSizeF(210, 297);
-}
-
-void TstCikti::gorunumBoyu()
-{
-    QFETCH(QPageLayout::Orientation, yon);
-    QFETCH(double, yakinlik);
-    QFETCH(double, beklenenYakinlik);
-    QFETCH(QSizeF, mm);
-
-    SayfaGorunumu gorunum;
-    Sayfa sayfa;
-    sayfa.yon = yon;
-    gorunum.SayfaGoster(sayfa);
-    gorunum.YakinlikAyarla(yakinlik);
-    QCOMPARE(gorunum.Yakinlik(), beklenenYakinlik);
-
-    const QSize boy = gorunum.widget()->size();
-    const double en = mm.width() / 25.4 * gorunum.logicalDpiX() * beklenenYakinlik;
-    const double boyu = mm.height() / 25.4 * gorunum.logicalDpiY() * beklenenYakinlik;
-    QVERIFY2(qAbs(boy.width() - en) <= 1 && qAbs(boy.height() - boyu) <= 1,
-             qPrintable(u"%1x%2"_s.arg(boy.width()).arg(boy.height())));
-}
-
-void TstCikti::gorunumKaydirir()
-{
-    SayfaGorunumu gorunum;
-    gorunum.resize(300, 300);
-    gorunum.SayfaGoster(Sayfa());
-    gorunum.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&gorunum));
-
-    QScrollBar* dikey = gorunum.verticalScrollBar();
-    QVERIFY(dikey->maximum() > 0);
-    QVERIFY(gorunum.horizontalScrollBar()->maximum() > 0);
-    dikey->setValue(dikey->maximum());
-    QCOMPARE(gorunum.widget()->y(), -dikey->maximum());
-
-    // Small enough to fit, it needs no scrolling.
-    gorunum.YakinlikAyarla(0.1);
-    QCOMPARE(dikey->maximum(), 0);
-}
-
-// A thick rule drawn on the sheet lands where its twips say, past the margin.
-void TstCikti::gorunumCizer()
-{
-    Sayfa sayfa;
-    sayfa.zemin.cizgiler.append({QLineF(0, 1000, 6000, 1000), 120});
-    SayfaGorunumu gorunum;
-    gorunum.SayfaGoster(sayfa);
-    const QImage resim = gorunum.widget()->grab().toImage();
-
-    const double olcek = gorunum.logicalDpiX() / TwipInc;
-    const auto nokta = [olcek](double x, double y) {
-        return QPoint(qRound((KenarTwip + x) * olcek), qRound((KenarTwip + y) * olcek));
-    };
-    QCOMPARE(QColor(resim.pixel(nokta(3000, 1000))), QColor(Qt::black));
-    QCOMPARE(QColor(resim.pixel(nokta(3000, 1300))), QColor(Qt::white));
-    QCOMPARE(QColor(resim.pixel(nokta(3000, 1000 - KenarTwip))), QColor(Qt::white));
-}
 
 QTEST_MAIN(TstCikti)
 #include "tst_cikti.moc"

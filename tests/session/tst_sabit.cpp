@@ -1,36 +1,20 @@
-#include "gecici_veri.h"
-#include "etkinlestir.h"
+#include "ekran_testi.h"
 #include "modal_yanit.h"
 #include "sabit.h"
 #include "sabit_kayit.h"
-#include "veritabani.h"
-#include "veri.h"
 
 #include <QLabel>
-#include <QLineEdit>
-#include <QPointer>
 #include <QSignalSpy>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
 
-class TstSabit : public QObject, protected GeciciVeri
+class TstSabit : public QObject, protected EkranTesti<Sabit>
 {
     Q_OBJECT
 
-    QPointer<Sabit> m_ekran;
-
     static inline const QString kilit =
         u"create trigger kilit before update on Sabit begin select raise(abort, 'kilitli'); end"_s;
-
-
-    // Runs a statement on GENEL.MDB; the first value of a query.
-    QVariant sql(const QString& komut)
-    {
-        Veritabani& vt = veri().Baglanti(Dosya::Genel);
-        QSqlQuery q = vt.Sorgu(komut);
-        return q.next() ? q.value(0) : QVariant();
-    }
 
     // Every edited field with a text of its own.
     static SabitSatiri ornek()
@@ -43,21 +27,12 @@ class TstSabit : public QObject, protected GeciciVeri
         s[u"CalisAy"_s] = u"11"_s;
         return s;
     }
-
     // Opens the screen, the saved example first when kayitli.
     void ac(bool kayitli = true)
     {
         if (kayitli)
             SabitKayit::Kaydet(veri().Genel(), ornek());
-        m_ekran = new Sabit({u"2026"_s, u"3"_s, u"Okul"_s, &veri()});
-        m_ekran->show();
-        Etkinlestir(m_ekran);
-    }
-    QLineEdit* kutu(const char* ad) const { return m_ekran->findChild<QLineEdit*>(QString::fromLatin1(ad)); }
-    QString odak() const { return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString(); }
-    static void tus(int kod, Qt::KeyboardModifiers ek = Qt::NoModifier)
-    {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key(kod), ek);
+        EkranTesti::ac();
     }
 
 private slots:
@@ -74,7 +49,7 @@ private slots:
         SabitKayit::Kaydet(veri().Genel(), ornek());
         // Empty, not NULL: readers compare with ''.
         QCOMPARE(sql(u"select ifnull(FutFedOran || FedOran || Sezon || Sezon1 || DamSinir1 || DamSinir2 || "
-                     "DamSinir3, 'NULL') || DamgaOran2 || DamgaOran3 || LigSponsoru from Sabit"_s).toString(),
+                     "DamSinir3, 'NULL') || DamgaOran2 || DamgaOran3 || LigSponsoru from Sabit"_s),
                  u"89Spor"_s);
         SabitKayit::Sil(veri().Genel());
         QVERIFY(!SabitKayit::Var(veri().Genel()));
@@ -85,7 +60,7 @@ private slots:
         sql(u"drop trigger kilit"_s);
         SabitKayit::Kaydet(veri().Genel(), ornek());
         SabitKayit::Kaydet(veri().Genel(), ornek());
-        QCOMPARE(sql(u"select count(*) || '/' || min(Anahtar) from Sabit"_s).toString(), u"1/1"_s);
+        QCOMPARE(sql(u"select count(*) || '/' || min(Anahtar) from Sabit"_s), u"1/1"_s);
         QCOMPARE(SabitKayit::Getir(veri().Genel()).value_or(SabitSatiri()), ornek());
     }
 
@@ -103,7 +78,7 @@ private slots:
         s[u"CalisYil"_s] = s[u"CalisAy"_s] = yazilan;
         SabitKayit::Kaydet(veri().Genel(), s);
         QTEST(sql(u"select CalisYil from Sabit"_s).toDouble(), "saklanan");
-        QCOMPARE(sql(u"select typeof(CalisAy) from Sabit"_s).toString(), u"integer"_s);
+        QCOMPARE(sql(u"select typeof(CalisAy) from Sabit"_s), u"integer"_s);
     }
 
     // Tab runs through every box in table order; each typed text reaches its field.
@@ -111,18 +86,19 @@ private slots:
     {
         ac(false);
         QSignalSpy degisti(m_ekran.data(), &Sabit::CalismaDegisti);
-        kutu("Anahtar")->setFocus();
+        bul(u"Anahtar"_s)->setFocus();
         SabitSatiri beklenen;
         for (const SabitAlan& a : SabitAlanlari()) {
-            tus(Qt::Key_Tab);
-            QCOMPARE(odak(), a.kontrol);
-            const QString metin = a.alan == u"CalisYil" ? u"2031"_s : a.alan == u"CalisAy" ? u"7"_s : a.kontrol + u" O'Neil"_s;
+            Tus(Qt::Key_Tab);
+            QCOMPARE(Odak(), a.kontrol);
+            const QString metin =
+                a.alan == u"CalisYil" ? u"2031"_s : a.alan == u"CalisAy" ? u"7"_s : a.kontrol + u" O'Neil"_s;
             QTest::keyClicks(QApplication::focusWidget(), metin);
             beklenen.insert(a.alan, metin);
         }
-        tus(Qt::Key_Tab);
-        QCOMPARE(odak(), u"c2"_s);
-        tus(Qt::Key_F1);
+        Tus(Qt::Key_Tab);
+        QCOMPARE(Odak(), u"c2"_s);
+        Tus(Qt::Key_F1);
         QCOMPARE(SabitKayit::Getir(veri().Genel()).value_or(SabitSatiri()), beklenen);
         QCOMPARE(degisti.size(), 1);
         QCOMPARE(degisti[0], (QVariantList{u"2031"_s, u"7"_s}));
@@ -145,31 +121,15 @@ private slots:
         ac();
         QSignalSpy degisti(m_ekran.data(), &Sabit::CalismaDegisti);
         sql(bozma);
-        kutu("Anahtar")->setFocus();
+        bul(u"Anahtar"_s)->setFocus();
         ModalYanit yanit(u"Tamam"_s);
-        tus(kod);
+        Tus(kod);
         QVERIFY(yanit.Metin().startsWith(u"Veri tabanı hatası"_s));
         QTEST(m_ekran->DurumSatiri()->text(), "durum");
         QCOMPARE(degisti.size(), 0);
     }
 
-    void f2TemizlerVeSubeMudurunaGecer()
-    {
-        ac();
-        tus(Qt::Key_F2);
-        for (const char* ad : {"Muhasebeci1", "Muhasebeci2", "AyniyatMemuru1", "AyniyatMemuru2", "SubeMudur1",
-                               "SubeMudur2", "KurumAdi", "CalisAy", "CalisYil"})
-            QVERIFY2(kutu(ad)->text().isEmpty(), ad);
-        QCOMPARE(kutu("KurumKod")->text(), u"KurumKod Çağ"_s);
-        QCOMPARE(odak(), u"SubeMudur1"_s);
-    }
-
-    void cevap_data()
-    {
-        QTest::addColumn<QString>("cevap");
-        QTest::newRow("evet") << "Evet";
-        QTest::newRow("hayır") << "Hayır";
-    }
+    void cevap_data() { CevapSatirlari(); }
     // F5 asks before it deletes. A missing row is offered at open and on Enter
     // in Anahtar alike, and either answer clears the boxes.
     void cevap()
@@ -177,53 +137,75 @@ private slots:
         QFETCH(QString, cevap);
         const bool evet = cevap == u"Evet";
         ac();
+        bul(u"Anahtar"_s)->setText(u"0"_s);  // no row to delete: not asked
+        {
+            ModalYanit sorulmaz(cevap);
+            Tus(Qt::Key_F5);
+            QVERIFY(!sorulmaz.Goruldu());
+        }
+        bul(u"Anahtar"_s)->setText(u"1"_s);
         {
             ModalYanit yanit(cevap);
-            tus(Qt::Key_F5);
+            Tus(Qt::Key_F5);
             QCOMPARE(yanit.Metin(), u"Bu bilgileri silmek istiyormusunuz ?"_s);
             QCOMPARE(yanit.Baslik(), u"Siliniyor"_s);
         }
         QCOMPARE(SabitKayit::Var(veri().Genel()), !evet);
-        QCOMPARE(kutu("Muhasebeci1")->text().isEmpty(), evet);
+        QCOMPARE(metin(u"Muhasebeci1"_s).isEmpty(), evet);
         Etkinlestir(m_ekran);
         if (evet)
-            QCOMPARE(odak(), u"Muhasebeci1"_s);
+            QCOMPARE(Odak(), u"Muhasebeci1"_s);
         SabitKayit::Sil(veri().Genel());
-        kutu("KurumAdi")->setText(u"yazılan"_s);
-        kutu("Muhasebeci1")->setText(u"yazılan"_s);
-        kutu("Anahtar")->setFocus();
+        bul(u"KurumAdi"_s)->setText(u"yazılan"_s);
+        bul(u"Muhasebeci1"_s)->setText(u"yazılan"_s);
+        bul(u"Anahtar"_s)->setFocus();
         {
             ModalYanit yanit(cevap);
-            tus(Qt::Key_Return);
+            Tus(Qt::Key_Return);
             QVERIFY(yanit.Goruldu());
         }
-        QCOMPARE(kutu("KurumAdi")->text() + kutu("Muhasebeci1")->text(), QString());
+        QCOMPARE(metin(u"KurumAdi"_s) + metin(u"Muhasebeci1"_s), QString());
         delete m_ekran;
         ModalYanit yanit(cevap);
         ac(false);
         QCOMPARE(yanit.Metin(), u"Böyle bir kayıt bulunamadı, Şimdi açmak ister misiniz ?"_s);
-        QCOMPARE(odak(), evet ? u"Muhasebeci1"_s : u"Anahtar"_s);
+        QCOMPARE(Odak(), evet ? u"Muhasebeci1"_s : u"Anahtar"_s);
     }
 
-    // Enter in Anahtar reads the row saved after open; Ctrl+F9 goes back.
-    void enterYolu()
+    // Enter in Anahtar reads the row saved after open and walks the
+    // signatories, ending in SubeMudur2; Ctrl+F9 in Muhasebeci1 goes to the
+    // institution; F2 empties the names and the month and goes to SubeMudur1.
+    void tuslar()
     {
         ac(false);
         SabitKayit::Kaydet(veri().Genel(), ornek());
-        kutu("Anahtar")->setFocus();
-        tus(Qt::Key_Return);
-        QCOMPARE(kutu("itaAmiriAdi")->text(), u"itaAmiriAd Çağ"_s);
-        for (const char* sonraki : {"Muhasebeci1", "Muhasebeci2", "AyniyatMemuru1", "AyniyatMemuru2", "SubeMudur1",
-                                    "SubeMudur2", "SubeMudur2"}) {
-            QCOMPARE(odak(), QString::fromLatin1(sonraki));
-            tus(Qt::Key_Return);
+        const struct
+        {
+            const char* kutu;
+            int tus;
+            Qt::KeyboardModifiers ek;
+            const char* odakta;
+        } adimlar[] = {
+            {"Anahtar", Qt::Key_Return, {}, "Muhasebeci1"},
+            {"Muhasebeci1", Qt::Key_Return, {}, "Muhasebeci2"},
+            {"Muhasebeci2", Qt::Key_Return, {}, "AyniyatMemuru1"},
+            {"AyniyatMemuru1", Qt::Key_Return, {}, "AyniyatMemuru2"},
+            {"AyniyatMemuru2", Qt::Key_Return, {}, "SubeMudur1"},
+            {"SubeMudur1", Qt::Key_Return, {}, "SubeMudur2"},
+            {"SubeMudur2", Qt::Key_Return, {}, "SubeMudur2"},
+            {"Muhasebeci2", Qt::Key_F9, Qt::ControlModifier, "Muhasebeci2"},
+            {"Muhasebeci1", Qt::Key_F9, Qt::ControlModifier, "KurumAdi"},
+            {"KurumAdi", Qt::Key_F2, {}, "SubeMudur1"},
+        };
+        for (const auto& a : adimlar) {
+            bul(QString::fromLatin1(a.kutu))->setFocus();
+            Tus(a.tus, a.ek);
+            QCOMPARE(Odak(), QString::fromLatin1(a.odakta));
         }
-        kutu("Muhasebeci2")->setFocus();
-        tus(Qt::Key_F9, Qt::ControlModifier);
-        QCOMPARE(odak(), u"Muhasebeci2"_s);
-        kutu("Muhasebeci1")->setFocus();
-        tus(Qt::Key_F9, Qt::ControlModifier);
-        QCOMPARE(odak(), u"KurumAdi"_s);
+        for (const char* ad : {"Muhasebeci1", "Muhasebeci2", "AyniyatMemuru1", "AyniyatMemuru2", "SubeMudur1",
+                               "SubeMudur2", "KurumAdi", "CalisAy", "CalisYil"})
+            QVERIFY2(metin(QString::fromLatin1(ad)).isEmpty(), ad);
+        QCOMPARE(metin(u"itaAmiriAdi"_s) + u'|' + metin(u"KurumKod"_s), u"itaAmiriAd Çağ|KurumKod Çağ"_s);
     }
 };
 

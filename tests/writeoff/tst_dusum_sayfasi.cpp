@@ -1,10 +1,18 @@
+#include "gecici_veri.h"
 #include "bicim.h"
+#include "cikti.h"
 #include "dusum_sayfasi.h"
+#include "dusum_yaz.h"
+#include "etkinlestir.h"
 #include "fis_yazimi.h"
 #include "form_cizimi.h"
 #include "kayit.h"
+#include "sabit_kayit.h"
+#include "veri.h"
 
 #include <QFontMetricsF>
+#include <QPointer>
+#include <QPushButton>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
@@ -80,11 +88,13 @@ QStringList yazilari(const Sayfa& s) { return yazilari(s.yazilar); }
 
 }
 
-class TstDusumSayfasi : public QObject
+class TstDusumSayfasi : public QObject, protected GeciciVeri
 {
     Q_OBJECT
 
 private slots:
+    void init() { Yenile(); }
+
     // Each value at its place and size; a row without a code keeps its line
     // empty and takes no number.
     void yerler()
@@ -171,6 +181,36 @@ private slots:
         QCOMPARE(s.MetinNerede(8360, satirY(4)), FisYazimiKurali::KdvSatiri(y.KDVTOP));
         QCOMPARE(s.MetinNerede(8360, satirY(5)),
                  FisYazimiKurali::GenelToplamSatiri(DusumKayit::AraToplam(y.d).Text3, y.KDVTOP));
+    }
+
+    void ekran()
+    {
+        const DusumYazimi y = yazim({satir(u"255 01"_s, u"Masa"_s, u"2"_s, u"1500"_s)});
+        SabitKayit::Kaydet(veri().Genel(), sabit());
+        BellekCikti cikti;
+        QPointer<DusumYaz> e = new DusumYaz({u"2026"_s, u"12"_s, u"Okul"_s, &veri()}, y);
+        e->CiktiSec(&cikti);
+        e->show();
+        Etkinlestir(e);
+        QCOMPARE(e->windowTitle(), u"Hasarlı Dusum Yaz"_s);
+        QCOMPARE((QStringList{e->CmdYaz->text(), e->CmdKDV->text(), e->c8->text()}),
+                 (QStringList{u"F2  Yaz"_s, u"F3 KDV Yaz"_s, u"Esc_Çıkış"_s}));
+        QVERIFY(!e->findChild<QPushButton*>(u"Command2"_s));
+        Sayfa beklenen = DusumSayfasi(y, sabit());
+        QCOMPARE(yazilari(e->Goruntu()), yazilari(beklenen));
+
+        QTest::keyClick(e, Qt::Key_F3);
+        QTest::keyClick(e, Qt::Key_F3);
+        DusumKdvYaz(beklenen, y);
+        QCOMPARE(yazilari(e->Goruntu()), yazilari(beklenen));
+        QTest::keyClick(e, Qt::Key_F2);
+        QCOMPARE(cikti.belgeler.size(), 1);
+        QCOMPARE(cikti.belgeler[0].size(), 1);
+        QCOMPARE(yazilari(cikti.belgeler[0][0]), yazilari(beklenen));
+
+        QTest::keyClick(e, Qt::Key_Escape);
+        QVERIFY(!e->isVisible());
+        delete e;
     }
 };
 

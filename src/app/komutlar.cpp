@@ -4,6 +4,7 @@
 #include "komutlar.h"
 
 #include "cikti.h"
+#include "dusum_sayfasi.h"
 #include "fis_sayfasi.h"
 #include "fis_toplam.h"
 #include "istek_sayfasi.h"
@@ -59,6 +60,14 @@ Sayfa fisSayfasi(Veri& veri, const QString& no, const QString& cins, const QStri
     return FisSayfasi(yazim, sabit);
 }
 
+// The minutes of a saved write-off of the year, as its print screen draws
+// them.
+Sayfa dusumSayfasi(Veri& veri, const QString& no, const QString& yil)
+{
+    const DusumYazimi yazim = DusumKayit::KayittanYazim(veri, no, yil);
+    return DusumSayfasi(yazim, SabitKayit::Getir(veri.Genel()).value_or(SabitSatiri()));
+}
+
 void pdfYaz(const Sayfa& sayfa, const QString& dosya)
 {
     PdfCikti pdf(dosya);
@@ -107,21 +116,26 @@ int yazdir(Veri& veri, const QStringList& argumanlar, const Komutlar::Secenekler
     const QString& yil = secenek.yil;
     const QString tur = secenek.sayfa.isEmpty() ? QStringLiteral("fis") : secenek.sayfa;
     const QString& dosya = secenek.cikti;
-    if (argumanlar.value(1) != QLatin1String("fis") || no.isEmpty() || yil.isEmpty() || dosya.isEmpty()
-        || (cins != QLatin1String("G") && cins != QLatin1String("C"))
-        || !QStringList{QStringLiteral("fis"), QStringLiteral("zimmet"), QStringLiteral("istek")}.contains(tur)) {
+    static const QStringList turler = {QStringLiteral("fis"), QStringLiteral("zimmet"), QStringLiteral("istek")};
+    const bool fis = argumanlar.value(1) == QLatin1String("fis")
+                     && (cins == QLatin1String("G") || cins == QLatin1String("C")) && turler.contains(tur);
+    const bool dusum = argumanlar.value(1) == QLatin1String("dusum");
+    if ((!fis && !dusum) || no.isEmpty() || yil.isEmpty() || dosya.isEmpty()) {
         hataYaz(QStringLiteral("Kullanım: tasinir yazdir fis --veri KLASÖR --no N --cins G|C --yil YYYY "
-                               "[--sayfa fis|zimmet|istek] --cikti DOSYA.pdf"));
+                               "[--sayfa fis|zimmet|istek] --cikti DOSYA.pdf\n"
+                               "          tasinir yazdir dusum --veri KLASÖR --no N --yil YYYY --cikti DOSYA.pdf"));
         return 2;
     }
     bool harfYok = false;
-    pdfYaz(fisSayfasi(veri, no, cins, yil, tur, harfYok), QDir(dosya).absolutePath());
+    pdfYaz(dusum ? dusumSayfasi(veri, no, yil) : fisSayfasi(veri, no, cins, yil, tur, harfYok),
+           QDir(dosya).absolutePath());
     std::printf("Yazıldı: %s\n", qPrintable(QDir(dosya).absolutePath()));
     return harfYok ? YaziylaYazilamadi : 0;
 }
 
-// The sample's forms: the unit list, and the pages of an entry voucher of
-// this year that hands durable goods out, and of an issue voucher.
+// The sample's forms: the unit list, the pages of an entry voucher of this
+// year that hands durable goods out and of an issue voucher, and the minutes
+// of a write-off of the latest year that has one.
 int ornekFormlar(Veri& veri, const QString& ciktiSecenegi)
 {
     bool harfYok = false;
@@ -159,6 +173,15 @@ int ornekFormlar(Veri& veri, const QString& ciktiSecenegi)
     for (const char* tur : {"fis", "zimmet", "istek"})
         yaz(giris, QStringLiteral("G"), QString::fromLatin1(tur));
     yaz(cikis, QStringLiteral("C"), QStringLiteral("fis"));
+
+    const QString dusumYili = EnBuyukMetin(ayniyat, QStringLiteral("DUSUM_B"), QStringLiteral("Mid(Tarih,7,4)"));
+    const QString dusum = AlanGetir(ayniyat, QStringLiteral("DUSUM_B"), QStringLiteral("min(FisNo)"),
+                                    QStringLiteral(" where Mid(Tarih,7,4) = ?"), {dusumYili});
+    if (!dusum.isEmpty()) {
+        const QString dosya = QDir(cikti).filePath(QStringLiteral("dusum_%1_%2.pdf").arg(dusumYili, dusum));
+        pdfYaz(dusumSayfasi(veri, dusum, dusumYili), dosya);
+        yazilanlar << dosya;
+    }
 
     std::printf("Formlar PDF olarak yazıldı: %s\n", qPrintable(cikti));
     for (const QString& dosya : yazilanlar)

@@ -74,10 +74,12 @@ int main(int argc, char* argv[])
                                                   "(varsayılan: veri klasöründe formlar); "
                                                   "yazdir: yazılacak PDF dosyası."),
                                    QStringLiteral("klasör"));
-    const QCommandLineOption no(QStringLiteral("no"), QStringLiteral("yazdir: fiş numarası."), QStringLiteral("N"));
+    const QCommandLineOption no(QStringLiteral("no"), QStringLiteral("yazdir: fiş ya da tutanak numarası."),
+                                QStringLiteral("N"));
     const QCommandLineOption cins(QStringLiteral("cins"), QStringLiteral("yazdir: fiş türü, G (giriş) ya da C (çıkış)."),
                                   QStringLiteral("G|C"));
-    const QCommandLineOption yil(QStringLiteral("yil"), QStringLiteral("yazdir: fişin yılı."), QStringLiteral("YYYY"));
+    const QCommandLineOption yil(QStringLiteral("yil"), QStringLiteral("yazdir: fişin ya da tutanağın yılı."),
+                                 QStringLiteral("YYYY"));
     const QCommandLineOption sayfa(QStringLiteral("sayfa"),
                                    QStringLiteral("yazdir: fis (varsayılan), zimmet ya da istek."),
                                    QStringLiteral("tür"));
@@ -88,6 +90,7 @@ int main(int argc, char* argv[])
                                                 "kod-plani-yukle DOSYA: kurumun hesap kodu listesini "
                                                 "(kod<TAB>ad) yükler.\n"
                                                 "yazdir fis: kayıtlı bir fişin sayfasını PDF olarak yazar.\n"
+                                                "yazdir dusum: kayıtlı bir düşüm tutanağını PDF olarak yazar.\n"
                                                 "Komut verilmezse program açılır."),
                                  QStringLiteral("[komut]"));
     parser.process(app);

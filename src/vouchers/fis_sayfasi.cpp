@@ -9,6 +9,8 @@
 #include <utility>
 
 namespace Ciz = FormCizimi;
+using FormCizimi::Alan;
+using FormCizimi::SolaEtiket;
 
 namespace {
 
@@ -125,16 +127,6 @@ double BlokCizgisi(int satir)
 double ImzaAlt()
 {
     return BlokCizgisi(6) + 900;
-}
-
-QRectF Alan(double sol, double ust, double sag, double alt, double pay = 40)
-{
-    return QRectF(QPointF(sol + pay, ust), QPointF(sag - pay, alt));
-}
-
-void SolaEtiket(Zemin& z, const QRectF& alan, const QString& metin, double punto = 8, bool kalin = false)
-{
-    Ciz::Etiket(z, alan, metin, punto, kalin, Qt::AlignLeft | Qt::AlignVCenter);
 }
 
 void BaslikCiz(Zemin& z)
@@ -421,12 +413,10 @@ void FisKdvYaz(Sayfa& sayfa, const FisYazimi& yazim, const QString& kdvTutari)
 
     const double kdvY = ToplamY(yazim.fis) + Ciz::SatirAdimi;
     Ciz::Sil(sayfa, ToplamX, kdvY, 9);
-    QVariant yuvarlanmis = FisToplam::Yuvarla(*kdv, 2);
-    Ciz::Sigdir(sayfa, ToplamX, kdvY, QStringLiteral("    KDV. ...  : ") + Tutar2YazTek(yuvarlanmis, 15), 9, Sag);
+    Ciz::Sigdir(sayfa, ToplamX, kdvY, FisYazimiKurali::KdvSatiri(FisToplam::Yuvarla(*kdv, 2)), 9, Sag);
 
     const double genelY = kdvY + 2 * BlokSatiri;
     Ciz::Sil(sayfa, GenelToplamX, genelY, 10, true);
-    QVariant genelToplam = Val(VirgulNokta(yazim.Text3)) + Val(VirgulNokta(kdvTutari));
-    Ciz::Sigdir(sayfa, GenelToplamX, genelY, QStringLiteral("G.Toplam : ") + Tutar2YazTek(genelToplam, 15), 10,
-                Sag, true);
+    Ciz::Sigdir(sayfa, GenelToplamX, genelY, FisYazimiKurali::GenelToplamSatiri(yazim.Text3, kdvTutari), 10, Sag,
+                true);
 }

@@ -37,15 +37,25 @@ FisToplam::AraToplamlar FisToplam::AraToplam(const FisEkrani& fis)
 
 double FisToplam::KdvToplam(FisEkrani& fis)
 {
+    return KdvTopla(
+        [&fis](int i, int sutun) {
+            // A counted line without a rate gets the usual one, in the grid too.
+            if (sutun == FisSutun::KDV && fis.Hucre(i, sutun).isEmpty())
+                fis.HucreYaz(i, sutun, QStringLiteral("18"));
+            return fis.Hucre(i, sutun);
+        },
+        FisSutun::Miktar, FisSutun::BirimFiyat, FisSutun::KDV);
+}
+
+double FisToplam::KdvTopla(const std::function<QString(int, int)>& hucre, int miktarSutunu, int fiyatSutunu,
+                           int oranSutunu)
+{
     double kdv = 0;
     for (int i = 1; i <= FisSatir::SatirSayisi; ++i) {
-        if (Val(fis.Hucre(i, FisSutun::Miktar)) == 0)
+        const double miktar = Val(hucre(i, miktarSutunu));
+        if (miktar == 0)
             continue;
-        if (fis.Hucre(i, FisSutun::KDV).isEmpty())
-            fis.HucreYaz(i, FisSutun::KDV, QStringLiteral("18"));
-        kdv = geriOku(kdv)
-              + Val(fis.Hucre(i, FisSutun::BirimFiyat)) * Val(fis.Hucre(i, FisSutun::Miktar)) / 100
-                    * Val(fis.Hucre(i, FisSutun::KDV));
+        kdv = geriOku(kdv) + Val(hucre(i, fiyatSutunu)) * miktar / 100 * Val(hucre(i, oranSutunu));
     }
     return kdv;
 }

@@ -2,6 +2,7 @@
 
 #include "fis_yazimi.h"
 
+#include <functional>
 #include <optional>
 
 class Veri;
@@ -26,6 +27,14 @@ AraToplamlar AraToplam(const FisEkrani& fis);
 // an issue voucher comes to 0. A counted line with an empty rate gets "18"
 // in the grid. Cells are read with plain Val, so a comma cuts a price.
 double KdvToplam(FisEkrani& fis);
+
+// The VAT of grid rows 1 to 25 (a fixed count, not the grid's), the cells
+// read through `hucre` by row and column: for each row whose quantity is not
+// 0, price times quantity, divided by 100, times the rate. The rate cell is
+// read only for such a row. Every cell by plain Val; the total is read back
+// from its text between rows, as its box keeps it.
+double KdvTopla(const std::function<QString(int satir, int sutun)>& hucre, int miktarSutunu, int fiyatSutunu,
+                int oranSutunu);
 
 // Basic's Round: ties go to the even digit, judged on the number's fifteen
 // digit decimal form (0.125 gives 0.12, 2.675 gives 2.68).

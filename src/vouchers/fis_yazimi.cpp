@@ -26,3 +26,14 @@ QString FisYazimiKurali::SicilYazisi(const FisEkrani& fis, int satir, int son)
                         + SayiMetni(Val(fis.FisNo));
     return kok.left(21) + QString::number(son);
 }
+
+QString FisYazimiKurali::KdvSatiri(QVariant kdv)
+{
+    return QStringLiteral("    KDV. ...  : ") + Tutar2YazTek(kdv, 15);
+}
+
+QString FisYazimiKurali::GenelToplamSatiri(const QString& tutar, const QString& kdv)
+{
+    QVariant toplam = Val(VirgulNokta(tutar)) + Val(VirgulNokta(kdv));
+    return QStringLiteral("G.Toplam : ") + Tutar2YazTek(toplam, 15);
+}

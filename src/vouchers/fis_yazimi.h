@@ -2,6 +2,8 @@
 
 #include "fis_kayit.h"
 
+#include <QVariant>
+
 // What the print screens of a voucher take from the voucher screen, as it
 // stands, unsaved changes included: the head and the grid, and the values
 // the screen shows beside them.
@@ -31,5 +33,11 @@ double Miktar(const FisEkrani& fis, int satir);
 // characters of the code's digits, the year of the date and the voucher
 // number joined, then `son` (the line number, or the slip's own counter).
 QString SicilYazisi(const FisEkrani& fis, int satir, int son);
+
+// The lines the VAT adds under a table, each figure right-aligned to width 15
+// with single blanks: the VAT, then the grand total, the sum of the amount
+// total and the VAT as their boxes hold them.
+QString KdvSatiri(QVariant kdv);
+QString GenelToplamSatiri(const QString& tutar, const QString& kdv);
 
 }

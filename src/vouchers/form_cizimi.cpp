@@ -139,6 +139,16 @@ void FormCizimi::Etiket(Zemin& zemin, const QRectF& alan, const QString& metin, 
     zemin.etiketler.append({alan, metin, punto, kalin, hiza});
 }
 
+QRectF FormCizimi::Alan(double sol, double ust, double sag, double alt, double pay)
+{
+    return QRectF(QPointF(sol + pay, ust), QPointF(sag - pay, alt));
+}
+
+void FormCizimi::SolaEtiket(Zemin& zemin, const QRectF& alan, const QString& metin, double punto, bool kalin)
+{
+    Etiket(zemin, alan, metin, punto, kalin, Qt::AlignLeft | Qt::AlignVCenter);
+}
+
 void FormCizimi::Basliklar(Zemin& zemin, const QList<double>& sutunlar, double ust, double alt,
                            const QStringList& basliklar, double punto)
 {

@@ -44,6 +44,11 @@ void Dikey(Zemin& zemin, double x, double ust, double alt, double kalinlik = Inc
 void Etiket(Zemin& zemin, const QRectF& alan, const QString& metin, double punto = 8, bool kalin = false,
             Qt::Alignment hiza = Qt::AlignCenter);
 
+// The room of a label in a cell: `pay` in from its left and right edges.
+QRectF Alan(double sol, double ust, double sag, double alt, double pay = 40);
+// A label at the left of its room, halfway down.
+void SolaEtiket(Zemin& zemin, const QRectF& alan, const QString& metin, double punto = 8, bool kalin = false);
+
 // A row of heading cells between the x of `sutunlar` (one edge more than
 // there are headings), each a box with its label centred, bold.
 void Basliklar(Zemin& zemin, const QList<double>& sutunlar, double ust, double alt, const QStringList& basliklar,

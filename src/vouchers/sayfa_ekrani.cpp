@@ -10,18 +10,22 @@
 #include <QImage>
 #include <QPushButton>
 
-SayfaEkrani::SayfaEkrani(const CalismaBaglami& baglam, const QString& baslik, QWidget* ebeveyn)
+SayfaEkrani::SayfaEkrani(const CalismaBaglami& baglam, const QString& baslik, QWidget* ebeveyn, FormResmi resim)
     : KartEkrani(baglam, ebeveyn), P(Adli(new SayfaGorunumu(this), "P")),
       CmdYaz(Adli(new QPushButton(QStringLiteral("F2  Yazdır"), this), "CmdYaz")),
       c8(Adli(new QPushButton(QStringLiteral("Esc  Çıkış"), this), "c8")),
-      Command2(Adli(new QPushButton(QStringLiteral("Form Resmi"), this), "Command2")),
+      Command2(resim == FormResmi::Var ? Adli(new QPushButton(QStringLiteral("Form Resmi"), this), "Command2")
+                                       : nullptr),
       m_arac(new QHBoxLayout)
 {
     setWindowTitle(baslik);
     auto* ana = new QVBoxLayout(this);
     ana->addLayout(m_arac);
     m_arac->addWidget(CmdYaz);
-    m_arac->addWidget(Command2);
+    if (Command2) {
+        m_arac->addWidget(Command2);
+        connect(Command2, &QPushButton::clicked, this, &SayfaEkrani::ResimYukle);
+    }
     m_arac->addStretch();
     m_arac->addWidget(c8);
     ana->addWidget(P, 1);
@@ -30,7 +34,6 @@ SayfaEkrani::SayfaEkrani(const CalismaBaglami& baglam, const QString& baslik, QW
 
     connect(CmdYaz, &QPushButton::clicked, this, &SayfaEkrani::Yazdir);
     connect(c8, &QPushButton::clicked, this, &QWidget::close);
-    connect(Command2, &QPushButton::clicked, this, &SayfaEkrani::ResimYukle);
     TusTanimla(QKeySequence(Qt::Key_F2), [this] { Yazdir(); });
 }
 

@@ -9,14 +9,18 @@ class SayfaGorunumu;
 
 // A printed form shown as a page before it goes to the printer: the page is
 // drawn once when the screen opens, shown scrolled in `P`, and copied to the
-// printer as it stands by `CmdYaz` (also F2). `c8` and Esc close; `Command2`
-// puts the scanned form "FisY1.BMP" of the data folder under the texts.
+// printer as it stands by `CmdYaz` (also F2). `c8` and Esc close; on the
+// voucher's forms `Command2` puts the scanned form "FisY1.BMP" of the data
+// folder under the texts.
 class SayfaEkrani : public KartEkrani
 {
     Q_OBJECT
 
 public:
-    SayfaEkrani(const CalismaBaglami& baglam, const QString& baslik, QWidget* ebeveyn = nullptr);
+    enum class FormResmi { Var, Yok };
+
+    SayfaEkrani(const CalismaBaglami& baglam, const QString& baslik, QWidget* ebeveyn = nullptr,
+                FormResmi resim = FormResmi::Var);
 
     const Sayfa& Goruntu() const { return m_sayfa; }
     // Sends the page to the screen's output as it stands.
@@ -25,7 +29,7 @@ public:
     SayfaGorunumu* P;
     QPushButton* CmdYaz;
     QPushButton* c8;
-    QPushButton* Command2;
+    QPushButton* Command2;  // null without the form picture
 
 protected:
     // Shows the page; again after the screen changed it.

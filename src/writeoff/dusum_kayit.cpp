@@ -1,9 +1,12 @@
 #include "dusum_kayit.h"
 
+#include "bicim.h"
+#include "dusum_yazimi.h"
 #include "fis_kayit.h"
 #include "fis_toplam.h"
 #include "kayit.h"
 #include "tek_deger.h"
+#include "veri.h"
 #include "veritabani.h"
 
 QString DusumEkrani::Hucre(int satir, int sutun) const
@@ -215,6 +218,26 @@ DusumKayit::AraToplamlar DusumKayit::AraToplam(const DusumEkrani& d)
     }
     const FisToplam::AraToplamlar ara = FisToplam::AraToplam(sayilan);
     return {ara.Text2, ara.Text3};
+}
+
+double DusumKayit::KdvToplam(const DusumEkrani& d)
+{
+    return FisToplam::KdvTopla([&d](int i, int sutun) { return d.Hucre(i, sutun); }, DusumSutun::Miktar,
+                               DusumSutun::BirimFiyat, DusumSutun::KDV);
+}
+
+DusumYazimi DusumKayit::KayittanYazim(Veri& veri, const QString& fisNo, const QString& yil)
+{
+    DusumYazimi yazim;
+    DusumEkrani& d = yazim.d;
+    d.FisNo = fisNo;
+    d.CalisYil = yil;
+    if (!Getir(veri.Ayniyat(), d))
+        throw Hata(QStringLiteral("%1 yılında %2 nolu düşüm tutanağı bulunamadı.").arg(yil, fisNo));
+    d.Satirlar = Guncelle(veri.Ayniyat(), veri.Genel(), d.FisNo, yil);
+    yazim.Text2 = AraToplam(d).Text2;
+    yazim.KDVTOP = SayiMetni(KdvToplam(d));
+    return yazim;
 }
 
 FisSatir::HareketListesi DusumKayit::HesapHareketListe(Veritabani& vt, const QString& hesapKod)

@@ -9,7 +9,9 @@
 
 #include <functional>
 
+class Veri;
 class Veritabani;
+struct DusumYazimi;
 
 // The columns of the write-off grid, counted from 0.
 namespace DusumSutun {
@@ -83,6 +85,18 @@ struct AraToplamlar
 // The running figures under the grid, over the rows with a quantity and a
 // price.
 AraToplamlar AraToplam(const DusumEkrani& d);
+
+// The VAT of grid rows 1 to 25 as the voucher's is worked out: quantity
+// (column 5) times price (column 6), divided by 100, times the rate (column
+// 15), each by plain Val, over the rows with a quantity. A row without a
+// rate adds nothing.
+double KdvToplam(const DusumEkrani& d);
+
+// What the print screen takes, from a write-off of the year as it is saved:
+// its head, its marked lines as grid rows and the totals of its screen.
+// Throws Hata when there is no such write-off, VeriHatasi when the data
+// cannot be read.
+DusumYazimi KayittanYazim(Veri& veri, const QString& fisNo, const QString& yil);
 
 // Every line of FIS with the code, written-off ones too: description, price,
 // voucher number, code, date and unit. Nothing is summed.

@@ -5,6 +5,8 @@
 #include "veri.h"
 
 #include <QDir>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -105,6 +107,39 @@ private slots:
         secenek.cikti = tmp.filePath(u"fis.pdf"_s);
         QCOMPARE(Komutlar::Calistir({u"yazdir"_s, u"fis"_s}, tmp.path(), secenek), 3);
         QVERIFY(PdfTamam(secenek.cikti));
+    }
+
+    // A saved write-off's minutes go to a PDF whole; an unknown number fails
+    // and writes nothing.
+    void dusumYazdir()
+    {
+        QTemporaryDir dizin;
+        QStringList dusum;
+        {
+            Veri v(dizin.path());
+            OrnekVeriYaz(v, 50);
+            dusum = v.Ayniyat().Satirlar(u"select FisNo, Mid(Tarih,7,4), KomisyonBaskaniAdi from DUSUM_B"_s).value(0);
+        }
+        QVERIFY(!dusum.isEmpty());
+        Komutlar::Secenekler secenek;
+        secenek.no = QString::number(dusum[0].toInt() + 1), secenek.yil = dusum[1];
+        secenek.cikti = dizin.filePath(u"yok.pdf"_s);
+        QCOMPARE(Komutlar::Calistir({u"yazdir"_s, u"dusum"_s}, dizin.path(), secenek), 1);
+        QVERIFY(!QFile::exists(secenek.cikti));
+
+        secenek.no = dusum[0];
+        secenek.cikti = dizin.filePath(u"dusum.pdf"_s);
+        QCOMPARE(Komutlar::Calistir({u"yazdir"_s, u"dusum"_s}, dizin.path(), secenek), 0);
+        QVERIFY(PdfTamam(secenek.cikti));
+        const QString pdftotext = QStandardPaths::findExecutable(u"pdftotext"_s);
+        if (pdftotext.isEmpty())
+            QSKIP("pdftotext is not installed");
+        QProcess surec;
+        surec.start(pdftotext, {u"-enc"_s, u"UTF-8"_s, secenek.cikti, u"-"_s});
+        QVERIFY(surec.waitForFinished());
+        const QString metin = QString::fromUtf8(surec.readAllStandardOutput());
+        QVERIFY(metin.contains(u"KAYITTAN DÜŞME TEKLİF VE ONAY TUTANAĞI"_s));
+        QVERIFY(metin.contains(dusum[2]));
     }
 };
 

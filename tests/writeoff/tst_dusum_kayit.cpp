@@ -1,5 +1,6 @@
 #include "gecici_veri.h"
 #include "dusum_kayit.h"
+#include "dusum_yazimi.h"
 #include "fis_kayit.h"
 #include "saat.h"
 #include "veritabani.h"
@@ -261,6 +262,33 @@ private slots:
         const DusumKayit::AraToplamlar t = DusumKayit::AraToplam(d);
         QCOMPARE(t.Text2, u"2,5"_s);
         QCOMPARE(t.Text3, u"25,5"_s);
+    }
+
+    // The VAT of rows 1 to 25 that have a quantity, every cell by plain Val.
+    void kdvToplam()
+    {
+        DusumEkrani d;
+        d.Satirlar = QList<QStringList>(26, satir(u"K"_s, {}, {}, {}, u"2"_s));
+        for (QStringList& s : d.Satirlar)
+            s[DusumSutun::KDV] = u"10"_s;
+        d.Satirlar[1][DusumSutun::Miktar] = u"0"_s;
+        d.Satirlar[2][DusumSutun::BirimFiyat] = u"12,5"_s;
+        d.Satirlar[3][DusumSutun::KDV].clear();
+        // 22 rows of 2 at 1500 and 10 %; the third at 12, the comma cutting.
+        QCOMPARE(DusumKayit::KdvToplam(d), 22 * 2 * 1500 / 100. * 10 + 2 * 12 / 100. * 10);
+    }
+
+    // What the print takes from a saved write-off: its head, its marked
+    // lines and their totals; the lines bring no rate. No such write-off
+    // throws.
+    void kayittanYazim()
+    {
+        const DusumEkrani d = dusum(u"3"_s, {satir(u"255 02 01 001"_s, u"02.03.2026"_s, u"7"_s, u"1"_s, u"2"_s)});
+        QCOMPARE(DusumKayit::Kaydet(veri().Ayniyat(), d, evet), DusumSonucu::Kaydedildi);
+        const DusumYazimi y = DusumKayit::KayittanYazim(veri(), u"3"_s, u"2026"_s);
+        QCOMPARE((QStringList{y.d.Tarih, y.d.UyeAdi, y.Text2, y.KDVTOP}), (QStringList{d.Tarih, d.UyeAdi, "2", "0"}));
+        QCOMPARE(y.d.Satirlar, DusumKayit::Guncelle(veri().Ayniyat(), veri().Genel(), u"3"_s, u"2026"_s));
+        QVERIFY_THROWS_EXCEPTION(Hata, DusumKayit::KayittanYazim(veri(), u"3"_s, u"2025"_s));
     }
 
     // Earlier values of a commission field, trimmed, in the file's order,

@@ -1,7 +1,9 @@
 #include "dusum.h"
 
+#include "bicim.h"
 #include "dusulen_l.h"
 #include "dusum_l1.h"
+#include "dusum_yaz.h"
 #include "fis_satir.h"
 #include "kayit.h"
 #include "liste_izgarasi.h"
@@ -142,6 +144,7 @@ Dusum::Dusum(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
             Getir();
     });
     connect(cd2, &QPushButton::clicked, this, &Dusum::Kaydet);
+    connect(Cd4, &QPushButton::clicked, this, &Dusum::TutanakYazdir);
     connect(cd1, &QPushButton::clicked, this, [this] {
         Temizle();
         Sonk();
@@ -160,6 +163,7 @@ Dusum::Dusum(const CalismaBaglami& baglam, QWidget* parent) : KartEkrani(baglam,
         if (!FisNo->text().trimmed().isEmpty())
             Kaydet();
     });
+    TusTanimla(QKeySequence(Qt::Key_F2), [this] { TutanakYazdir(); });
     TusTanimla(QKeySequence(Qt::Key_F3), [this] {
         FisNo->clear();
         Temizle();
@@ -251,6 +255,20 @@ void Dusum::Kaydet()
         FisNo->setFocus();
         break;
     }
+}
+
+void Dusum::TutanakYazdir()
+{
+    DusumYaz* ekran = nullptr;
+    if (!Dene([this, &ekran] {
+            DusumYazimi yazim{Ekran(), Text2->text(), QString()};
+            yazim.KDVTOP = SayiMetni(DusumKayit::KdvToplam(yazim.d));
+            ekran = new DusumYaz(Baglam(), yazim, this);
+        }))
+        return;
+    ekran->show();
+    ekran->raise();
+    ekran->activateWindow();
 }
 
 void Dusum::Getir()

@@ -28,6 +28,9 @@ public:
     explicit Dusum(const CalismaBaglami& baglam, QWidget* parent = nullptr);
 
     void Kaydet();
+    // F2: the minutes of the write-off as the screen holds it, with the tax of
+    // its rows.
+    void TutanakYazdir();
     // Fetches the head and its lines; an unknown number is said and empties
     // the screen.
     void Getir();

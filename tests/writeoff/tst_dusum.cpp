@@ -1,6 +1,7 @@
 #include "dusulen_l.h"
 #include "dusum.h"
 #include "dusum_l1.h"
+#include "dusum_yaz.h"
 #include "etkinlestir.h"
 #include "fis_kayit.h"
 #include "gecici_veri.h"
@@ -112,6 +113,14 @@ private slots:
         }
         Etkinlestir(m_ekran);
         QCOMPARE(m_ekran->DurumSatiri()->text(), u"     Kayıt Yapıldı ..   "_s);
+
+        // F2 shows the minutes of what the screen holds.
+        tus(Qt::Key_F2);
+        auto* tutanak = m_ekran->findChild<DusumYaz*>();
+        QVERIFY(tutanak);
+        QCOMPARE(tutanak->Goruntu().MetinNerede(2200, 2840), u"MASAÜSTÜ"_s);
+        tutanak->close();
+        Etkinlestir(m_ekran);
 
         // The line left what can be written off, the write-off is listed.
         tus(Qt::Key_F10);

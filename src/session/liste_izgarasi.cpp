@@ -336,3 +336,13 @@ QHBoxLayout* SuzgecSatiri(ListeIzgarasi* liste, const QList<QLineEdit*>& suzgecl
     return satir;
 }
 
+bool OkTusuListeye(ListeIzgarasi* liste, QEvent* olay)
+{
+    if (olay->type() != QEvent::KeyPress)
+        return false;
+    const int tus = static_cast<QKeyEvent*>(olay)->key();
+    if (tus != Qt::Key_Up && tus != Qt::Key_Down)
+        return false;
+    liste->setFocus();
+    return true;
+}

@@ -79,6 +79,10 @@ private:
     void GenislikleriUygula();
 };
 
+// Up and Down pressed on one of a list screen's other controls lead to its
+// rows; true when the event was such a key.
+bool OkTusuListeye(ListeIzgarasi* liste, QEvent* olay);
+
 // The filter row of a list: each filter box stands over the column it
 // narrows, with the same width, and the sort options follow. The list is
 // made at least wide enough for those columns.

@@ -167,12 +167,8 @@ bool FIS_L::eventFilter(QObject* nesne, QEvent* olay)
             BoyutDegistir();
             return true;
         }
-    } else if (olay->type() == QEvent::KeyPress) {
-        const int tus = static_cast<QKeyEvent*>(olay)->key();
-        if (tus == Qt::Key_Up || tus == Qt::Key_Down) {
-            T->setFocus();
-            return true;
-        }
+    } else if (OkTusuListeye(T, olay)) {
+        return true;
     }
     return KartEkrani::eventFilter(nesne, olay);
 }

@@ -215,12 +215,8 @@ bool Malzeme_L::eventFilter(QObject* nesne, QEvent* olay)
             c->addItems(ogeler);
             c->setEditText(metin);
         }
-    } else if (olay->type() == QEvent::KeyPress) {
-        const int tus = static_cast<QKeyEvent*>(olay)->key();
-        if (tus == Qt::Key_Up || tus == Qt::Key_Down) {
-            T->setFocus();
-            return true;
-        }
+    } else if (OkTusuListeye(T, olay)) {
+        return true;
     }
     return KartEkrani::eventFilter(nesne, olay);
 }

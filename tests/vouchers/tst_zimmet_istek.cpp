@@ -1,16 +1,14 @@
-#include "cikti.h"
 #include "form_cizimi.h"
 #include "istek_sayfasi.h"
 #include "istek_yaz.h"
 #include "kayit.h"
 #include "modal_yanit.h"
-#include "veri_klasoru.h"
+#include "sabit_kayit.h"
+#include "veri.h"
 #include "zimmet_sayfasi.h"
 #include "zimmet_yaz.h"
-#include "veri.h"
 
 #include <QFontMetricsF>
-#include <QPointer>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -140,57 +138,46 @@ private slots:
     {
         QFETCH(SayfaYapici, yapici);
         QFETCH(QPointF, yer);
-        QFETCH(QString, beklenen);
-        QFETCH(double, punto);
         const Sayfa s = yapici(
             yazim(u"C"_s, {satir(u"255 01 01 001"_s, u"Masa"_s, u""_s, u"1"_s, u"ADET"_s, u"Ali Veli"_s)}), sabit);
         const SayfaYazisi* yazi = s.YaziNerede(yer.x(), yer.y());
         QVERIFY(yazi);
-        QCOMPARE(yazi->metin, beklenen);
-        QCOMPARE(yazi->punto, punto);
+        QTEST(yazi->metin, "beklenen");
+        QTEST(yazi->punto, "punto");
     }
 
-    void isaret_data()
+    // The custody slip reads the kind, the request slip Hangi; the request
+    // slip leaves out a unit name in capitals, an empty one prints nowhere.
+    void isaretVeBirim_data()
     {
         QTest::addColumn<QString>("cins");
         QTest::addColumn<QString>("cikan");
-        QTest::addColumn<QString>("beklenen");
-        QTest::newRow("entry") << u"G"_s << u""_s << u"G-7"_s;
-        QTest::newRow("entry handing out") << u"G"_s << u"1"_s << u"GÇ-7"_s;
-        QTest::newRow("issue") << u"C"_s << u"1"_s << u"Ç-7"_s;
+        QTest::addColumn<QString>("unite");
+        QTest::addColumn<QString>("isaret");
+        QTest::addColumn<QString>("zimmette");
+        QTest::addColumn<QString>("istekte");
+        const QString bos(13, u' ');
+        QTest::newRow("entry, Depo") << u"G"_s << u""_s << u"Depo"_s << u"G-7"_s << u"Depo"_s << bos;
+        QTest::newRow("entry handing out, DEPO") << u"G"_s << u"1"_s << u"DEPO"_s << u"GÇ-7"_s << u"DEPO"_s << bos;
+        QTest::newRow("issue, depo") << u"C"_s << u"1"_s << u"depo"_s << u"Ç-7"_s << u"depo"_s << u"depo"_s;
+        QTest::newRow("issue, no unit") << u"C"_s << u"1"_s << u"false"_s << u"Ç-7"_s << QString() << QString();
     }
-    // The custody slip reads the kind, the request slip Hangi.
-    void isaret()
+    void isaretVeBirim()
     {
         QFETCH(QString, cins);
         QFETCH(QString, cikan);
-        QFETCH(QString, beklenen);
+        QFETCH(QString, unite);
+        QFETCH(QString, isaret);
         FisYazimi f =
             yazim(cins, {satir(u"255"_s, u"Masa"_s, u"1"_s, u""_s), satir(u"150"_s, u"Kağıt"_s, u"1"_s, cikan)});
-        QCOMPARE(ZimmetSayfasi(f, sabit).MetinNerede(1100, 600), beklenen);
-        f.fis.FCins = u"X"_s;
-        QCOMPARE(IstekSayfasi(f, sabit).MetinNerede(8700, 280), beklenen);
-    }
-
-    void birim_data()
-    {
-        QTest::addColumn<QString>("unite");
-        QTest::addColumn<QString>("zimmette");
-        QTest::addColumn<QString>("istekte");
-        QTest::newRow("Depo") << u"Depo"_s << u"Depo"_s << QString(13, u' ');
-        QTest::newRow("DEPO") << u"DEPO"_s << u"DEPO"_s << QString(13, u' ');
-        QTest::newRow("depo") << u"depo"_s << u"depo"_s << u"depo"_s;
-        QTest::newRow("none") << u"false"_s << QString() << QString();
-    }
-    void birim()
-    {
-        QFETCH(QString, unite);
-        QFETCH(QString, zimmette);
-        QFETCH(QString, istekte);
-        FisYazimi f = yazim(u"C"_s, {satir(u"255"_s, u"Masa"_s, u""_s, u"1"_s)});
         f.UniteAd2 = unite;
-        QCOMPARE(ZimmetSayfasi(f, sabit).MetinNerede(2100, 1770), zimmette);
-        QCOMPARE(IstekSayfasi(f, sabit).MetinNerede(1650, 650), istekte);
+        const Sayfa zimmet = ZimmetSayfasi(f, sabit);
+        QCOMPARE(zimmet.MetinNerede(1100, 600), isaret);
+        QTEST(zimmet.MetinNerede(2100, 1770), "zimmette");
+        f.fis.FCins = u"X"_s;
+        const Sayfa istek = IstekSayfasi(f, sabit);
+        QCOMPARE(istek.MetinNerede(8700, 280), isaret);
+        QTEST(istek.MetinNerede(1650, 650), "istekte");
     }
 
     void zimmetSatirlari_data()
@@ -283,8 +270,9 @@ private slots:
         QTest::newRow("custody slip") << true << u"Zimmet Fişi Yazdırma"_s << QPointF(2100, 1180);
         QTest::newRow("request slip") << false << u"İstek Belgesi Yazdırma"_s << QPointF(7450, 13212);
     }
-    // The slip comes with the constants of the folder; F2 prints the page
-    // shown, Esc closes. Without the constants it comes after a message.
+    // The slip comes with the constants of the folder; without them it
+    // comes after a message, with the voucher's own texts. Printing and
+    // closing are the page screen's, tried on the voucher's page.
     void ekran()
     {
         QFETCH(bool, zimmet);
@@ -295,27 +283,17 @@ private slots:
         SabitKayit::Kaydet(veri.Genel(), sabit);
         const auto ac = [&] {
             const CalismaBaglami baglam{u"2026"_s, u"3"_s, u"Okul"_s, &veri};
-            return zimmet ? static_cast<SayfaEkrani*>(new ZimmetYaz(baglam, dolu())) : new IstekYaz(baglam, dolu());
+            return std::unique_ptr<SayfaEkrani>(zimmet ? static_cast<SayfaEkrani*>(new ZimmetYaz(baglam, dolu()))
+                                                       : new IstekYaz(baglam, dolu()));
         };
-        QPointer<SayfaEkrani> ekran = ac();
-        BellekCikti cikti;
-        ekran->CiktiSec(&cikti);
-        ekran->show();
-        QVERIFY(QTest::qWaitForWindowActive(ekran));
+        const auto ekran = ac();
         QCOMPARE(ekran->windowTitle(), baslik);
         QVERIFY(!ekran->Goruntu().MetinNerede(sabitYeri.x(), sabitYeri.y()).isEmpty());
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F2);
-        QCOMPARE(cikti.belgeler.size(), 1);
-        QCOMPARE(cikti.belgeler[0].size(), 1);
-        QCOMPARE(bant(cikti.belgeler[0][0], 0, 20000), bant(ekran->Goruntu(), 0, 20000));
-        QCOMPARE(cikti.belgeler[0][0].zemin.kutular.size(), ekran->Goruntu().zemin.kutular.size());
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-        QTRY_VERIFY(!ekran);
 
         // Constants that cannot be read are named; the page shows without them.
         veri.Genel().Calistir(u"drop table Sabit"_s);
         ModalYanit y(u"Tamam"_s);
-        std::unique_ptr<SayfaEkrani> sabitsiz(ac());
+        const auto sabitsiz = ac();
         QVERIFY(y.Goruldu());
         QCOMPARE(sabitsiz->Goruntu().MetinNerede(sabitYeri.x(), sabitYeri.y()), QString());
         QVERIFY(!sabitsiz->Goruntu().yazilar.isEmpty());

@@ -163,7 +163,8 @@ private slots:
         f.Satirlar[1][FisSutun::Ozellik] = QString(40, u'Ö');
         f.TeslimAlan = QString(40, u'x');
         kaydet(f);
-        QCOMPARE(alan(u"FIS"_s, u"where Satir = 1"_s, u"SicilNo"_s), alan(u"FIS"_s, u"where Satir = 2"_s, u"SicilNo"_s));
+        QCOMPARE(alan(u"FIS"_s, u"where Satir = 1"_s, u"SicilNo"_s),
+                 alan(u"FIS"_s, u"where Satir = 2"_s, u"SicilNo"_s));
         QCOMPARE(alan(u"FIS"_s, u"where Satir = 2"_s, u"Ozellik"_s), QString(30, u'Ö'));
         QCOMPARE(AlanGetir(veri().Ayniyat(), u"FIS_B"_s, u"Len(TeslimAlan)"_s), u"32"_s);
     }

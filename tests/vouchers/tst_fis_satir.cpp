@@ -181,8 +181,8 @@ private slots:
         QCOMPARE(FisSatir::UniteAdlari(genel), (QStringList{"Ambar", "Kütüphane"}));
         QCOMPARE(FisSatir::UniteKodu(genel, u"Kütüphane"_s), u"5"_s);
 
-        veri().Ayniyat().Calistir(u"insert into FIS_B (FisNo, FCins, TeslimAlan) values "
-                                  "(1, 'G', 'Veli'), (2, 'G', 'Ali'), (3, 'G', 'Veli'), (4, 'G', NULL), (5, 'C', 'Can')"_s);
+        veri().Ayniyat().Calistir(u"insert into FIS_B (FisNo, FCins, TeslimAlan) values (1, 'G', 'Veli'), "
+                                  "(2, 'G', 'Ali'), (3, 'G', 'Veli'), (4, 'G', NULL), (5, 'C', 'Can')"_s);
         QCOMPARE(FisSatir::TeslimAlanlar(veri().Ayniyat(), u"G"_s), (QStringList{"Ali", "Veli"}));
         QCOMPARE(FisSatir::TeslimAlanlar(veri().Ayniyat(), u"C"_s), QStringList{"Can"});
     }

@@ -154,7 +154,8 @@ private slots:
         QStringList basilan;
         for (const auto& yazi : cikti.belgeler[0].value(0).yazilar)
             basilan << yazi.metin;
-        QVERIFY2(basilan.contains(u"Malzeme Listesi  "_s) && basilan.contains(u"Kalem"_s), qPrintable(basilan.join(u'|')));
+        QVERIFY2(basilan.contains(u"Malzeme Listesi  "_s) && basilan.contains(u"Kalem"_s),
+                 qPrintable(basilan.join(u'|')));
         QTest::keyClick(liste->T, Qt::Key_Return);
 
         QTRY_VERIFY(!m_ekran->findChild<Malzeme_L*>());

@@ -254,36 +254,54 @@ private slots:
         QVERIFY(!yazi->kalin);
     }
 
-    // The kind decides the mark, where the quantity is read and whether the
-    // supplier is printed.
-    void cins_data()
+    // The kind decides the mark on every page, the hand-out of line 2 too;
+    // where the voucher reads the quantity and whether it prints the
+    // supplier. The custody slip reads the kind, the request slip Hangi. The
+    // request slip leaves the store ("Depo", "DEPO") blank; no unit prints
+    // nowhere.
+    void cinsVeBirim_data()
     {
         QTest::addColumn<QString>("cins");
         QTest::addColumn<QString>("cikan");
+        QTest::addColumn<QString>("unite");
         QTest::addColumn<QString>("isaret");
         QTest::addColumn<QString>("miktar");
         QTest::addColumn<QString>("tutar");
         QTest::addColumn<QString>("nereden");
-        const QString pay = QString(20, u' ');
-        QTest::newRow("entry") << u"G"_s << u""_s << u"G-7"_s << u"4"_s << pay + u"50,00"_s
-                               << u"Yıldız Kırtasiye Ltd. Şt"_s;
-        QTest::newRow("entry that hands out") << u"G"_s << u"1"_s << u"GÇ-7"_s << u"4"_s << pay + u"50,00"_s
-                                              << u"Yıldız Kırtasiye Ltd. Şt"_s;
-        QTest::newRow("issue") << u"C"_s << u"3"_s << u"Ç-7"_s << u"3"_s << pay + u"37,50"_s << QString();
+        QTest::addColumn<QString>("birim");
+        QTest::addColumn<QString>("istekte");
+        const QString pay = QString(20, u' '), nereden = u"Yıldız Kırtasiye Ltd. Şt"_s, bos(13, u' ');
+        QTest::newRow("entry, Depo") << u"G"_s << u""_s << u"Depo"_s << u"G-7"_s << u"4"_s << pay + u"50,00"_s
+                                     << nereden << u"Depo"_s << bos;
+        QTest::newRow("entry handing out, DEPO") << u"G"_s << u"1"_s << u"DEPO"_s << u"GÇ-7"_s << u"4"_s
+                                                 << pay + u"50,00"_s << nereden << u"DEPO"_s << bos;
+        QTest::newRow("issue, depo") << u"C"_s << u"3"_s << u"depo"_s << u"Ç-7"_s << u"3"_s << pay + u"37,50"_s
+                                     << QString() << u"depo"_s << u"depo"_s;
+        QTest::newRow("issue, no unit") << u"C"_s << u"3"_s << u"false"_s << u"Ç-7"_s << u"3"_s << pay + u"37,50"_s
+                                        << QString() << QString() << QString();
     }
-    void cins()
+    void cinsVeBirim()
     {
         QFETCH(QString, cins);
         QFETCH(QString, cikan);
-        // The hand-out is on the second line: the mark looks at every line.
-        const Sayfa s = FisSayfasi(yazim(cins, {satir(u"150 01 01 001"_s, u"Kağıt"_s, u"4"_s, u"12.5"_s, cikan),
-                                                satir(u"150 01 01 001"_s, u"Kağıt"_s, u"4"_s, u"12.5"_s, cikan)}),
-                                   sabit());
+        QFETCH(QString, unite);
+        FisYazimi y = yazim(cins, {satir(u"150 01 01 001"_s, u"Kağıt"_s, u"4"_s, u"12.5"_s),
+                                   satir(u"150 01 01 001"_s, u"Kağıt"_s, u"4"_s, u"12.5"_s, cikan)});
+        y.UniteAd2 = unite;
+        const Sayfa s = FisSayfasi(y, sabit());
         QTEST(s.MetinNerede(8800, 320), "isaret");
         QTEST(s.MetinNerede(7260, 4700), "miktar");
         QCOMPARE(s.MetinNerede(8540, 4700), u"12,5"_s);
         QTEST(s.MetinNerede(9250, 4700), "tutar");
         QTEST(s.MetinNerede(2200, 2800), "nereden");
+        QTEST(s.MetinNerede(8000, 2800), "birim");
+        const Sayfa zimmet = ZimmetSayfasi(y, sabit());
+        QTEST(zimmet.MetinNerede(1100, 600), "isaret");
+        QTEST(zimmet.MetinNerede(2100, 1770), "birim");
+        y.fis.FCins = u"X"_s;
+        const Sayfa istek = IstekSayfasi(y, sabit());
+        QTEST(istek.MetinNerede(8700, 280), "isaret");
+        QTEST(istek.MetinNerede(1650, 650), "istekte");
     }
 
     // Rows without a code keep their place; the number printed is the row's.
@@ -325,14 +343,6 @@ private slots:
         QCOMPARE(yazilari(s).filter(u",11410 "_s),
                  QStringList({u"2140,11410 10 b Miktar"_s, u"2470,11410 10 b "_s + miktar,
                               u"7150,11410 10 b Miktar"_s, u"7480,11410 10 b "_s + miktar}));
-    }
-
-    // What an empty entry of the unit names reads as prints nothing.
-    void uniteYok()
-    {
-        FisYazimi y = yazim(u"G"_s, {});
-        y.UniteAd2 = u"false"_s;
-        QVERIFY(!FisSayfasi(y, sabit()).YaziNerede(8000, 2800));
     }
 
     // A second press replaces what the first one put there; an amount that
@@ -503,40 +513,6 @@ private slots:
         QTest::keyClick(ekran.get(), Qt::Key_Escape);
         QVERIFY(!ekran->isVisible());
     }
-    // The custody slip reads the kind, the request slip Hangi; the request
-    // slip leaves the store ("Depo", "DEPO") blank, no unit prints nowhere.
-    void slipIsaretVeBirim_data()
-    {
-        QTest::addColumn<QString>("cins");
-        QTest::addColumn<QString>("cikan");
-        QTest::addColumn<QString>("unite");
-        QTest::addColumn<QString>("isaret");
-        QTest::addColumn<QString>("zimmette");
-        QTest::addColumn<QString>("istekte");
-        const QString bos(13, u' ');
-        QTest::newRow("entry, Depo") << u"G"_s << u""_s << u"Depo"_s << u"G-7"_s << u"Depo"_s << bos;
-        QTest::newRow("entry handing out, DEPO") << u"G"_s << u"1"_s << u"DEPO"_s << u"GÇ-7"_s << u"DEPO"_s << bos;
-        QTest::newRow("issue, depo") << u"C"_s << u"1"_s << u"depo"_s << u"Ç-7"_s << u"depo"_s << u"depo"_s;
-        QTest::newRow("issue, no unit") << u"C"_s << u"1"_s << u"false"_s << u"Ç-7"_s << QString() << QString();
-    }
-    void slipIsaretVeBirim()
-    {
-        QFETCH(QString, cins);
-        QFETCH(QString, cikan);
-        QFETCH(QString, unite);
-        QFETCH(QString, isaret);
-        FisYazimi f =
-            slip(cins, {kalem(u"255"_s, u"Masa"_s, u"1"_s, u""_s), kalem(u"150"_s, u"Kağıt"_s, u"1"_s, cikan)});
-        f.UniteAd2 = unite;
-        const Sayfa zimmet = ZimmetSayfasi(f, sabit());
-        QCOMPARE(zimmet.MetinNerede(1100, 600), isaret);
-        QTEST(zimmet.MetinNerede(2100, 1770), "zimmette");
-        f.fis.FCins = u"X"_s;
-        const Sayfa istek = IstekSayfasi(f, sabit());
-        QCOMPARE(istek.MetinNerede(8700, 280), isaret);
-        QTEST(istek.MetinNerede(1650, 650), "istekte");
-    }
-
     void zimmetSatirlari_data()
     {
         QTest::addColumn<QString>("cins");

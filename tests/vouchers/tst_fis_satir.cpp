@@ -147,7 +147,6 @@ private slots:
         QCOMPARE(cikti.belgeler.size(), 1);
         const Sayfa& sayfa = cikti.belgeler[0][0];
         QCOMPARE(sayfa.MetinNerede(10 * MmTwip, 5 * MmTwip), u"150 01 01 001 - A4 KAĞIT      Tarih :2026"_s);
-        QCOMPARE(sayfa.MetinNerede(5 * MmTwip, 15 * MmTwip), u"MalzemeÖzellik"_s);
         QCOMPARE(sayfa.MetinNerede(5 * MmTwip, 20 * MmTwip), u"MAVİ"_s);
         // The total follows the grid's last line at the left edge.
         const SayfaYazisi& son = sayfa.yazilar.last();

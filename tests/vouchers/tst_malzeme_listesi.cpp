@@ -168,17 +168,20 @@ private slots:
         QVERIFY(bul(u"KalanTop1"_s)->isVisibleTo(m_ekran));
     }
 
-    void bosListedeCiftTiklama()
+    // From an empty description the list shows what came in of the line's
+    // code.
+    void aciklamaSutunundan()
     {
-        auto* liste = listeAc({}, Ozellik);
+        ac();
+        izgara()->HucreYaz(1, HesapKod, u"255"_s);
+        izgara()->setFocus();
+        izgara()->HucreSec(1, Ozellik);
+        Tus(Qt::Key_F10);
+        auto* liste = m_ekran->findChild<Malzeme_L*>();
         QVERIFY(liste);
         QVERIFY(liste->Option3->isChecked());
-        QVERIFY(QTest::qWaitForWindowActive(liste));
-        QCOMPARE(liste->T->Rows(), 1);
-        QTest::mouseDClick(liste->T->viewport(), Qt::LeftButton, {}, QPoint(20, 10));
-        QVERIFY(m_ekran->findChild<Malzeme_L*>());
-        QCOMPARE(izgara()->Col(), int(Ozellik));
-        QVERIFY(!bul(u"GelenTop1"_s)->isVisibleTo(m_ekran));
+        QCOMPARE(liste->HesapKod->text(), u"255"_s);
+        QCOMPARE(liste->Hangi, u"Fis_K"_s);
     }
 };
 

@@ -220,6 +220,8 @@ private slots:
         QCOMPARE(hucre(2, BelgeTarih), u"14.03.2026"_s);
     }
 
+    // A saved voucher fetched by its number: its head and lines, its sums,
+    // its slips; the steps to the next, clearing and deleting.
     void getirTemizleAdimSil()
     {
         kayitliFis();
@@ -242,6 +244,21 @@ private slots:
         QCOMPARE(kontrol("Text3")->text(), u"250"_s);
         hucreyeGit(4, BirimFiyat);
         QCOMPARE(kontrol("Text3")->text(), u"257,5"_s);
+
+        // The custody slip names the unit of line 1 wherever the cursor
+        // stands, the VAT rates filled; the request slip carries the kind.
+        hucreyeGit(2, Ozellik);
+        kontrol<QPushButton>("Zimmet")->click();
+        auto* zimmet = m_ekran->findChild<ZimmetYaz*>();
+        QVERIFY(zimmet);
+        QCOMPARE(zimmet->Goruntu().MetinNerede(2100, 1770), u"Muhasebe"_s);
+        QCOMPARE(hucre(3, KDV), u"18"_s);
+        etkinlestir();
+        Tus(Qt::Key_F7);
+        auto* istek = m_ekran->findChild<IstekYaz*>();
+        QVERIFY(istek);
+        QCOMPARE(istek->Goruntu().MetinNerede(8700, 280), u"G-1"_s);
+        etkinlestir();
 
         // Page Up on 1 does nothing; past the last the screen empties, its
         // sums too, and the number stays.
@@ -462,6 +479,23 @@ private slots:
         alanlar(u"FIS"_s, u"where FCins = 'C'"_s, {{"FisNo", "1"}, {"Miktar", ""}, {"Cikan", "6"}});
         QCOMPARE(say(u"FIS_B"_s), 2);
 
+        // The request slip carries the kind; a unit code typed by hand is
+        // named once the cursor passes the unit columns.
+        kontrol<QPushButton>("Cyaz2")->click();
+        auto* istek = m_ekran->findChild<IstekYaz*>();
+        QVERIFY(istek);
+        QCOMPARE(istek->Goruntu().MetinNerede(8700, 280), u"Ç-1"_s);
+        QCOMPARE(istek->Goruntu().MetinNerede(1650, 650), QString());
+        istek->close();
+        QTRY_VERIFY(!m_ekran->findChild<IstekYaz*>());
+        etkinlestir();
+        hucreyeGit(1, Unite, u"3"_s);
+        hucreyeGit(1, IslemTur);
+        Tus(Qt::Key_F7);
+        istek = m_ekran->findChild<IstekYaz*>();
+        QVERIFY(istek);
+        QCOMPARE(istek->Goruntu().MetinNerede(1650, 650), u"Muhasebe"_s);
+
         // The menu's next entry reuses the form: the controls stay hidden.
         m_ekran->KipAyarla(giris());
         QVERIFY(!kontrol("KabulSayi")->isVisible());
@@ -586,51 +620,6 @@ private slots:
         QCOMPARE(kontrol("Text3")->text(), u"50,05"_s);
         QCOMPARE(fisYaz->KDVTut->text(), u"9,01"_s);
         QCOMPARE(fisYaz->Goruntu().MetinNerede(300, 7930), QString());
-    }
-
-    void zimmetVeIstek()
-    {
-        kayitliFis();
-        ac();
-        kontrol("FisNo")->setText(u"1"_s);
-        Tus(Qt::Key_Return);
-        izgara()->HucreYaz(3, HesapKod, u"255 01 01 001"_s);
-        izgara()->HucreYaz(3, Miktar, u"1"_s);
-        // The slip names the unit of line 1, wherever the cursor stands.
-        hucreyeGit(2, Ozellik);
-        kontrol<QPushButton>("Zimmet")->click();
-        auto* zimmet = m_ekran->findChild<ZimmetYaz*>();
-        QVERIFY(zimmet);
-        QCOMPARE(zimmet->Goruntu().MetinNerede(2100, 1770), u"Muhasebe"_s);
-        QCOMPARE(hucre(3, KDV), u"18"_s);
-
-        etkinlestir();
-        Tus(Qt::Key_F7);
-        auto* istek = m_ekran->findChild<IstekYaz*>();
-        QVERIFY(istek);
-        QCOMPARE(istek->Goruntu().MetinNerede(8700, 280), u"G-1"_s);
-    }
-
-    void istekCikisKipinde()
-    {
-        ac(cikis());
-        kontrol<QPushButton>("Cyaz2")->click();
-        auto* istek = m_ekran->findChild<IstekYaz*>();
-        QVERIFY(istek);
-        QCOMPARE(istek->Goruntu().MetinNerede(8700, 280), u"Ç-1"_s);
-        QCOMPARE(istek->Goruntu().MetinNerede(1650, 650), QString());
-        istek->close();
-        QTRY_VERIFY(!m_ekran->findChild<IstekYaz*>());
-
-        // A unit code typed by hand is named once the cursor passes the
-        // unit columns.
-        etkinlestir();
-        hucreyeGit(1, Unite, u"3"_s);
-        hucreyeGit(1, IslemTur);
-        Tus(Qt::Key_F7);
-        istek = m_ekran->findChild<IstekYaz*>();
-        QVERIFY(istek);
-        QCOMPARE(istek->Goruntu().MetinNerede(1650, 650), u"Muhasebe"_s);
     }
 };
 

@@ -89,7 +89,6 @@ class TstFisK : public QObject, protected EkranTesti<FIS_K>
             s << kontrol(ad)->text();
         return s;
     }
-    QPoint hucreNo() const { return {izgara()->Row(), izgara()->Col()}; }
     // Puts the grid's current cell somewhere to start a keyed case from,
     // and types there.
     void hucreyeGit(int satir, int sutun, const QString& metin = {})
@@ -366,7 +365,7 @@ private slots:
         bas({u"a"_s, Qt::Key_Right});
         QCOMPARE(izgara()->Col(), int(BirimFiyat));
         bas({u"b"_s, Qt::Key_Left, Qt::Key_Down});
-        QCOMPARE(hucreNo(), QPoint(3, Miktar));
+        QCOMPARE(QPoint(izgara()->Row(), izgara()->Col()), QPoint(3, Miktar));
         QCOMPARE(hucre(3, Miktar), u"7"_s);
         QCOMPARE(hucreler(2, {Miktar, BirimFiyat}), QStringList({u"A"_s, u"B"_s}));
         // A key on a filled cell starts it afresh; Esc blanks it.

@@ -166,14 +166,14 @@ const QList<RaporSutunu>& Sutunlar()
 {
     const auto sag = Qt::AlignRight;
     static const QList<RaporSutunu> sutunlar = {
-        {QStringLiteral("Sıra"), 500, sag},           {QStringLiteral("Tarih"), 1000},
-        {QStringLiteral("FişNo"), 600, sag},          {QStringLiteral("İşlem Tür"), 1300},
-        {QStringLiteral("Miktar"), 1000, sag},        {QStringLiteral("BirimFiyat"), 1100, sag},
-        {QStringLiteral("Tutar"), 1200, sag},         {QStringLiteral("Sıra"), 500, sag},
-        {QStringLiteral("Tarih"), 1000},              {QStringLiteral("FişNo"), 600, sag},
-        {QStringLiteral("Ünite-Birim"), 1600},        {QStringLiteral("Miktar"), 1000, sag},
-        {QStringLiteral("BirimFiyat"), 1100, sag},    {QStringLiteral("ÇıkanDeğer"), 1200, sag},
-        {QStringLiteral("KimeVerildiği"), 2000},      {QStringLiteral("Özellik"), 2000},
+        {QStringLiteral("Sıra"), 500, sag, true},          {QStringLiteral("Tarih"), 1000},
+        {QStringLiteral("FişNo"), 600, sag, true},         {QStringLiteral("İşlem Tür"), 1300},
+        {QStringLiteral("Miktar"), 1000, sag, true},       {QStringLiteral("BirimFiyat"), 1100, sag, true},
+        {QStringLiteral("Tutar"), 1200, sag, true},        {QStringLiteral("Sıra"), 500, sag, true},
+        {QStringLiteral("Tarih"), 1000},                   {QStringLiteral("FişNo"), 600, sag, true},
+        {QStringLiteral("Ünite-Birim"), 1600},             {QStringLiteral("Miktar"), 1000, sag, true},
+        {QStringLiteral("BirimFiyat"), 1100, sag, true},   {QStringLiteral("ÇıkanDeğer"), 1200, sag, true},
+        {QStringLiteral("KimeVerildiği"), 2000},           {QStringLiteral("Özellik"), 2000},
         {QStringLiteral("Tür"), 800}};
     return sutunlar;
 }

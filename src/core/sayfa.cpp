@@ -5,6 +5,7 @@
 #include <QPageSize>
 #include <QPainter>
 #include <QPen>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -62,6 +63,22 @@ QFont YaziFontu(double punto, bool kalin)
     font.setKerning(false);
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
+}
+
+SigdirilmisYazi Sigdirilmis(const QString& metin, double punto, double yer, bool kalin)
+{
+    const double genislik = QFontMetricsF(YaziFontu(punto, kalin)).horizontalAdvance(metin);
+    if (genislik <= yer)
+        return {metin, punto};
+    // Widths grow with the size, which the font takes in whole twips; the
+    // rounding of the advances may ask for a twip less.
+    constexpr double noktaTwip = TwipInc / 72;
+    const int enKucuk = qRound(EnKucukPunto * noktaTwip);
+    int boy = qMax(enKucuk, int(std::floor(punto * noktaTwip * yer / genislik)));
+    while (boy > enKucuk && QFontMetricsF(YaziFontu(boy / noktaTwip, kalin)).horizontalAdvance(metin) > yer)
+        --boy;
+    const QFontMetricsF olcu(YaziFontu(boy / noktaTwip, kalin));
+    return {olcu.elidedText(metin, Qt::ElideRight, yer), boy / noktaTwip};
 }
 
 void SayfaCiz(QPainter& ressam, const Sayfa& sayfa)

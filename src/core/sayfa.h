@@ -87,6 +87,21 @@ using Belge = QList<Sayfa>;
 // keeps the metrics free of any device's resolution.
 QFont YaziFontu(double punto, bool kalin);
 
+// A value too wide for its place is set smaller down to this size, and only
+// then cut: smaller letters no longer read on paper.
+inline constexpr double EnKucukPunto = 6;
+
+// A text and the size it is set in.
+struct SigdirilmisYazi
+{
+    QString metin;
+    double punto = 10;
+};
+
+// The text as it fits in `yer` twips: as it is when it fits, else smaller
+// down to EnKucukPunto, and at that size cut to end with "…".
+SigdirilmisYazi Sigdirilmis(const QString& metin, double punto, double yer, bool kalin);
+
 // Draws the page on a painter whose coordinates are twips from the origin of
 // the printable area.
 void SayfaCiz(QPainter& ressam, const Sayfa& sayfa);

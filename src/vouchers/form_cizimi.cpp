@@ -82,21 +82,8 @@ void FormCizimi::Yaz(Sayfa& sayfa, double x, double y, const QString& metin, dou
 void FormCizimi::Sigdir(Sayfa& sayfa, double x, double y, const QString& metin, double punto, double sag, bool kalin)
 {
     // The thicker of the rules a box can end at.
-    const double yer = sag - CerceveCizgisi / 2 - x;
-    const double genislik = Olcu(punto, kalin).horizontalAdvance(metin);
-    if (genislik <= yer) {
-        Yaz(sayfa, x, y, metin, punto, kalin);
-        return;
-    }
-    // Widths grow with the size, which the font takes in whole twips; the
-    // rounding of the advances may ask for a twip less.
-    const int enKucuk = qRound(EnKucukPunto * NoktaTwip);
-    int boy = qMax(enKucuk, int(std::floor(punto * NoktaTwip * yer / genislik)));
-    while (boy > enKucuk && Olcu(boy / NoktaTwip, kalin).horizontalAdvance(metin) > yer)
-        --boy;
-    const QFontMetricsF olcu = Olcu(boy / NoktaTwip, kalin);
-    Yaz(sayfa, x, Taban(y, punto, kalin) - olcu.ascent(), olcu.elidedText(metin, Qt::ElideRight, yer),
-        boy / NoktaTwip, kalin);
+    const SigdirilmisYazi s = Sigdirilmis(metin, punto, sag - CerceveCizgisi / 2 - x, kalin);
+    Yaz(sayfa, x, Taban(y, punto, kalin) - Olcu(s.punto, kalin).ascent(), s.metin, s.punto, kalin);
 }
 
 double FormCizimi::Ardindan(const SayfaYazisi& onceki, double x, const QString& metin, double punto, bool kalin)

@@ -20,10 +20,6 @@ inline constexpr double InceCizgi = 7;
 // Around a whole form.
 inline constexpr double CerceveCizgisi = 15;
 
-// A value too wide for its box is set smaller down to this size, and only
-// then cut: smaller letters no longer read on paper.
-inline constexpr double EnKucukPunto = 6;
-
 // Puts a text with the top-left corner of its line at (x, y). An empty text
 // leaves nothing, as Print does.
 void Yaz(Sayfa& sayfa, double x, double y, const QString& metin, double punto, bool kalin = false);

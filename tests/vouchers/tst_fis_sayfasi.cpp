@@ -442,7 +442,7 @@ private slots:
         QTest::addColumn<double>("punto");  // the size the box is made for
         QTest::addColumn<double>("eksik");  // twips of room less
         QTest::addColumn<double>("beklenen");
-        const double taban = FormCizimi::EnKucukPunto;
+        const double taban = EnKucukPunto;
         QTest::newRow("fits to the twip") << 9. << 0. << 9.;
         QTest::newRow("a twip short") << 9. << 1. << 8.95;
         QTest::newRow("fits at the floor") << taban << 0. << taban;
@@ -462,7 +462,7 @@ private slots:
         const SayfaYazisi y = s.yazilar.value(0);
         QCOMPARE(y.punto, beklenen);
         QCOMPARE(y.y + olcu(beklenen).ascent(), 100 + olcu(9).ascent());
-        const bool kesik = punto == FormCizimi::EnKucukPunto && eksik > 0;
+        const bool kesik = punto == EnKucukPunto && eksik > 0;
         QCOMPARE(y.metin, kesik ? metin.left(y.metin.size() - 1) + u'…' : metin);
         QVERIFY(FormCizimi::YerindeOlmayanlar(s).isEmpty());
     }

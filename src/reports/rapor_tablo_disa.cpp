@@ -1,17 +1,15 @@
 #include "rapor_belgesi.h"
 
 #include "bicim.h"
-#include "hata.h"
+#include "kullanici_dosyasi.h"
 
 #include <QFileInfo>
 #include <QHash>
-#include <QTemporaryFile>
 
 #include <xlsxwriter.h>
 #include <zip.h>
 
 #include <algorithm>
-#include <filesystem>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -19,10 +17,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // A spreadsheet document: every table as its title, its header block, its
-// column captions and its rows, one empty row between tables. It is written
-// under a name of its own beside the target and renamed over the target only
-// when whole, so a failure leaves the old file, or none, never half of one;
-// dropped before Bitir, the temporary file goes with it.
+// column captions and its rows, one empty row between tables.
 class TabloBelgesi : public RaporBelgesi
 {
 public:
@@ -49,28 +44,13 @@ public:
     void Bitir() override
     {
         Kapat();
-        if (!Tamam())
-            throw Yazilamadi(u"belge eksik kaldı"_s);
-        std::error_code hata;
-        std::filesystem::rename(m_gecici.fileName().toStdU16String(), m_dosya.toStdU16String(), hata);
-        if (hata)
-            throw Yazilamadi(QString::fromLocal8Bit(hata.message()));
-        m_gecici.setAutoRemove(false);
+        m_dosya.Yerlestir(Tamam());
     }
 
 protected:
-    explicit TabloBelgesi(const QString& dosya)
-        : m_dosya(dosya), m_gecici(dosya + u".XXXXXX"_s)
-    {
-        if (!m_gecici.open())
-            throw Yazilamadi(m_gecici.errorString());
-    }
+    explicit TabloBelgesi(const QString& dosya) : m_dosya(dosya), m_gecici(m_dosya.Gecici()) {}
 
-    Hata Yazilamadi(const QString& neden) const
-    {
-        return Hata(u"\"%1\" yazılamadı (%2). Diskte yer ve klasörde yazma izni olduğunu denetleyiniz."_s.arg(
-            m_dosya, neden));
-    }
+    Hata Yazilamadi(const QString& neden) const { return m_dosya.Yazilamadi(neden); }
 
     // One row of cells. A cell of a column whose sayi is set may go out as a
     // number; without columns every cell is text.
@@ -80,8 +60,8 @@ protected:
     // Whether the temporary file on disk is the whole document.
     virtual bool Tamam() const = 0;
 
-    const QString m_dosya;
-    QTemporaryFile m_gecici;
+    KullaniciDosyasi m_dosya;
+    QTemporaryFile& m_gecici;
 
 private:
     bool m_tabloVar = false;

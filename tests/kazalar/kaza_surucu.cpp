@@ -8,11 +8,14 @@
 //   kaza_surucu ac DIR      opens DIR through Veri, closes it, then prints for
 //                           every data file and monthly copy there its
 //                           integrity_check, the rows of each table and the
-//                           state of the test voucher and write-off; and
-//                           every stray ".yeni" file
+//                           state of the test voucher and write-off; for
+//                           every report written there (PDF, CSV, XLSX)
+//                           whether it is whole; and every stray ".yeni" or
+//                           temporary file
 //
 // Exit code 0 on success, 1 when the operation or the opening failed.
 
+#include "cikti.h"
 #include "dusum_kayit.h"
 #include "dusum_listesi.h"
 #include "fis_kayit.h"
@@ -172,6 +175,21 @@ bool dosyaRaporu(const QString& yol)
     return tamam;
 }
 
+// What a report file holds: for a PDF whether it reaches its end mark, for
+// a workbook whether the zip's closing record ends it, for a CSV its length
+// (an uninterrupted run on the same data and day writes the same).
+QString raporDurumu(const QFileInfo& dosya)
+{
+    const auto tam = [](bool evet) { return evet ? QStringLiteral("tam") : QStringLiteral("eksik"); };
+    if (dosya.suffix() == u"pdf")
+        return tam(PdfTamam(dosya.filePath()));
+    if (dosya.suffix() == u"csv")
+        return QString::number(dosya.size());
+    QFile f(dosya.filePath());
+    const QByteArray icerik = f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+    return tam(icerik.size() >= 22 && icerik.sliced(icerik.size() - 22, 4) == QByteArray("PK\x05\x06", 4));
+}
+
 // Opening is where the program finishes or undoes an interrupted write. The
 // files there are reported even when the folder does not open.
 int ac(const QString& klasor)
@@ -194,6 +212,14 @@ int ac(const QString& klasor)
     const QDir dizin(klasor);
     for (const QString& ad : dizin.entryList({QStringLiteral("*.yeni")}, QDir::Files, QDir::Name))
         yaz(QStringLiteral("*"), ad, QStringLiteral("yeni"));
+    for (const QFileInfo& f : dizin.entryInfoList({QStringLiteral("*.pdf"), QStringLiteral("*.csv"),
+                                                   QStringLiteral("*.xlsx"), QStringLiteral("*.pdf.*"),
+                                                   QStringLiteral("*.csv.*"), QStringLiteral("*.xlsx.*")},
+                                                  QDir::Files, QDir::Name))
+        if (f.suffix() != u"pdf" && f.suffix() != u"csv" && f.suffix() != u"xlsx")
+            yaz(QStringLiteral("*"), f.fileName(), QStringLiteral("geçici"));
+        else
+            yaz(f.fileName(), QStringLiteral("rapor"), raporDurumu(f));
     return tamam ? 0 : 1;
 }
 

@@ -144,6 +144,10 @@ class TstKazalar : public QObject
         if (islem == QLatin1String("kod-plani-yukle"))
             return {QStringLiteral(TASINIR_PROGRAMI), QStringLiteral("--veri"), klasor,
                     QStringLiteral("kod-plani-yukle"), m_kodListesi};
+        if (islem.startsWith(QLatin1String("rapor-")))
+            return {QStringLiteral(TASINIR_PROGRAMI), QStringLiteral("--veri"), klasor, QStringLiteral("rapor"),
+                    QStringLiteral("defter"), QStringLiteral("--hangi"), QStringLiteral("D"), QStringLiteral("--cikti"),
+                    QDir(klasor).filePath(QStringLiteral("defter.") + islem.mid(6))};
         if (islem == QLatin1String("fis") || islem == QLatin1String("dusum"))
             return {QStringLiteral(KAZA_SURUCUSU), islem, klasor};
         return {QStringLiteral(KAZA_SURUCUSU), QStringLiteral("kopya"), klasor};
@@ -292,6 +296,8 @@ private slots:
 
         islemEkle(QStringLiteral("fis"), ornek);
         islemEkle(QStringLiteral("dusum"), ornek);
+        for (const char* uzanti : {"pdf", "csv", "xlsx"})
+            islemEkle(QStringLiteral("rapor-") + QLatin1String(uzanti), ornek);
         islemEkle(QStringLiteral("ornek-veri"), hazir);
         islemEkle(QStringLiteral("ornek-veri-dosyasiz"), bos);
         islemEkle(QStringLiteral("kod-plani-yukle"), hazir);

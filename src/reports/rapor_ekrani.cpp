@@ -18,6 +18,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QStyle>
 #include <QTreeView>
 
 // The rows of the report as lstRapor shows them: read only, the closing
@@ -117,11 +119,17 @@ RaporEkrani::RaporEkrani(const CalismaBaglami& baglam, const QString& yaziBoyu, 
     Boyut->setCursor(Qt::PointingHandCursor);
     Boyut->installEventFilter(this);
     fr->addWidget(Boyut, 0, Qt::AlignRight);
-    m_panel = new QWidget(FR);
-    fr->addWidget(m_panel);
-    fr->addStretch();
+    // The panel scrolls where the screen is lower than its controls.
+    m_kaydirma = new QScrollArea(FR);
+    m_kaydirma->setFrameShape(QFrame::NoFrame);
+    m_kaydirma->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_kaydirma->setWidgetResizable(true);
+    m_panel = new QWidget(m_kaydirma);
+    m_kaydirma->setWidget(m_panel);
+    fr->addWidget(m_kaydirma, 1);
     m_panelYerlesimi = new QVBoxLayout(m_panel);
     m_panelYerlesimi->setContentsMargins(0, 0, 0, 0);
+    m_panelYerlesimi->addStretch();
     orta->addWidget(FR);
 
     // What the paper of every report asks: the size, the orientation and
@@ -141,7 +149,7 @@ RaporEkrani::RaporEkrani(const CalismaBaglami& baglam, const QString& yaziBoyu, 
     y->addWidget(new QLabel(QStringLiteral("Sayfa No"), yazdirma), 2, 0);
     SayfaNo = Adli(new QLineEdit(QStringLiteral("1"), yazdirma), "SayfaNo");
     y->addWidget(SayfaNo, 2, 1);
-    m_panelYerlesimi->addWidget(yazdirma);
+    m_panelYerlesimi->insertWidget(0, yazdirma);
 
     m_dugmeler = new QHBoxLayout;
     m_ana->addLayout(m_dugmeler);
@@ -184,6 +192,7 @@ void RaporEkrani::PaneleEkle(QWidget* w)
 {
     w->setParent(m_panel);
     m_panelYerlesimi->insertWidget(m_panelYeri++, w);
+    GenislikAyarla();
 }
 
 void RaporEkrani::UsteEkle(QWidget* w)
@@ -201,12 +210,18 @@ QPushButton* RaporEkrani::Dugme(const char* ad, const QString& baslik)
 void RaporEkrani::Boyutlandir()
 {
     m_genis = !m_genis;
-    m_panel->setVisible(m_genis);
+    m_kaydirma->setVisible(m_genis);
     Boyut->setText(m_genis ? QStringLiteral(" Gizle >>") : QStringLiteral(" <<"));
+    GenislikAyarla();
+}
+
+void RaporEkrani::GenislikAyarla()
+{
     // Wide, the panel keeps room for its controls however the screen's
     // resolution maps the twips.
-    FR->setMinimumWidth(Piksel(m_genis ? 2000 : 500));
-    FR->setMaximumWidth(m_genis ? QWIDGETSIZE_MAX : Piksel(500));
+    const int icerik = m_panel->sizeHint().width() + style()->pixelMetric(QStyle::PM_ScrollBarExtent)
+                       + 2 * FR->frameWidth() + 8;
+    FR->setFixedWidth(m_genis ? qMax(Piksel(2000), icerik) : Piksel(500));
 }
 
 void RaporEkrani::Goster(const RaporTablosu& tablo)
@@ -214,9 +229,12 @@ void RaporEkrani::Goster(const RaporTablosu& tablo)
     const bool yeniSutunlar = tablo.sutunlar.size() != m_tablo.sutunlar.size();
     m_tablo = tablo;
     m_model->Yenile();
-    if (yeniSutunlar)
-        for (int i = 0; i < m_tablo.sutunlar.size(); ++i)
-            lstRapor->header()->resizeSection(i, Piksel(m_tablo.sutunlar.at(i).genislik));
+    // The report's widths, widened where the screen's font needs more.
+    for (int i = 0; i < m_tablo.sutunlar.size(); ++i) {
+        const int genislik = yeniSutunlar ? Piksel(m_tablo.sutunlar.at(i).genislik) : lstRapor->columnWidth(i);
+        lstRapor->resizeColumnToContents(i);
+        lstRapor->setColumnWidth(i, qMax(genislik, lstRapor->columnWidth(i)));
+    }
 }
 
 void RaporEkrani::ListeyiTemizle()

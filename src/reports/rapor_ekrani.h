@@ -11,6 +11,7 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
+class QScrollArea;
 class QTreeView;
 class QVBoxLayout;
 class RaporModeli;
@@ -87,12 +88,14 @@ protected:
 private:
     // The table with the header block of the institution's constants.
     RaporTablosu UstBilgili() const;
+    void GenislikAyarla();
     // Asks the file name and writes the list to it.
     void DisaAktar(const QString& uzanti);
 
     RaporTablosu m_tablo;
     RaporModeli* m_model;
     QVBoxLayout* m_ana;
+    QScrollArea* m_kaydirma;
     QWidget* m_panel;
     QVBoxLayout* m_panelYerlesimi;
     int m_panelYeri = 0;

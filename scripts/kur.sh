@@ -10,7 +10,7 @@ PAKETLER=(
   libsqlite3-dev sqlite3
   strace
   qt6-translations-l10n
-  libzip-dev
+  libzip-dev libxlsxwriter-dev
   fonts-liberation2 fontconfig
   poppler-utils xvfb xauth
 )

@@ -4,12 +4,16 @@
 #include "komutlar.h"
 
 #include "cikti.h"
+#include "defter.h"
+#include "defter_kagidi.h"
 #include "dusum_sayfasi.h"
 #include "fis_sayfasi.h"
 #include "fis_toplam.h"
 #include "istek_sayfasi.h"
 #include "kod_plani_yukle.h"
 #include "ornek_veri.h"
+#include "rapor_belgesi.h"
+#include "saat.h"
 #include "sabit_kayit.h"
 #include "tek_deger.h"
 #include "unite_tanim.h"
@@ -18,6 +22,7 @@
 #include "zimmet_sayfasi.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <cstdio>
 #include <memory>
@@ -133,6 +138,62 @@ int yazdir(Veri& veri, const QStringList& argumanlar, const Komutlar::Secenekler
     return harfYok ? YaziylaYazilamadi : 0;
 }
 
+// Both ledgers' opening size and page length.
+constexpr double DefterYaziBoyu = 8;
+constexpr int DefterSatirSayisi = 53;
+
+// A whole ledger, every class with lines into one document, as F4 prints
+// them class after class: landscape, the pages numbered on from 1. Answers
+// the number of classes written.
+int defterYaz(Veri& veri, const QString& hangi, const RaporSuzgeci& s, const QString& dosya)
+{
+    const SabitSatiri sabit = SabitKayit::Getir(veri.Genel()).value_or(SabitSatiri());
+    int sayfaNo = 1;
+    const std::unique_ptr<RaporBelgesi> belge =
+        RaporBelgeleri::Dosya(dosya, Defter::Kagit(s, DefterSatirSayisi), DefterYaziBoyu, 2, sayfaNo);
+    int siniflar = 0;
+    for (const Defter::Sinif& sinif : Defter::Siniflar(veri.Genel(), s, hangi)) {
+        Defter::Sonuc sonuc = Defter::Hesapla(veri.Ayniyat(), veri.Genel(), s, hangi, false, sinif);
+        if (sonuc.tablo.satirlar.isEmpty())
+            continue;
+        sonuc.tablo.ustBilgi = RaporBelgeleri::UstBilgi(sabit, sonuc.tablo, Defter::Etiketler());
+        belge->Ekle(sonuc.tablo);
+        ++siniflar;
+    }
+    belge->Bitir();
+    return siniflar;
+}
+
+QDate tarihOku(const QString& metin)
+{
+    return QDate::fromString(metin, QStringLiteral("dd.MM.yyyy"));
+}
+
+int rapor(Veri& veri, const QStringList& argumanlar, const Komutlar::Secenekler& secenek)
+{
+    const QString hangi = secenek.hangi.toUpper();
+    const QString uzanti = QFileInfo(secenek.cikti).suffix().toLower();
+    const QDate baslangic = tarihOku(secenek.baslangic);
+    const QDate bitis = tarihOku(secenek.bitis);
+    if (argumanlar.value(1) != QLatin1String("defter") || (hangi != u"T" && hangi != u"D")
+        || !QStringList{QStringLiteral("pdf"), QStringLiteral("csv"), QStringLiteral("xlsx")}.contains(uzanti)
+        || (!secenek.baslangic.isEmpty() && !baslangic.isValid()) || (!secenek.bitis.isEmpty() && !bitis.isValid())) {
+        hataYaz(QStringLiteral("Kullanım: tasinir rapor defter --veri KLASÖR --hangi T|D [--baslangic gg.aa.yyyy] "
+                               "[--bitis gg.aa.yyyy] [--hesap KOD] --cikti DOSYA.pdf|.csv|.xlsx"));
+        return 2;
+    }
+    RaporSuzgeci s = RaporSuzgecleri::Acilis(QString::number(Saat::Bugun().year()), hangi);
+    if (baslangic.isValid())
+        s.Tarih = baslangic;
+    if (bitis.isValid())
+        s.Tarih1 = bitis;
+    s.HesapKod5 = s.HesapKod6 = secenek.hesap;
+    const QString dosya = QDir(secenek.cikti).absolutePath();
+    const int siniflar = defterYaz(veri, hangi, s, dosya);
+    std::printf("Yazıldı: %s (%d sınıf)\n", qPrintable(dosya), siniflar);
+    return 0;
+}
+
 // The sample's forms: the unit list, the pages of an entry voucher of this
 // year that hands durable goods out and of an issue voucher, and the minutes
 // of a write-off of the latest year that has one.
@@ -183,6 +244,14 @@ int ornekFormlar(Veri& veri, const QString& ciktiSecenegi)
         yazilanlar << dosya;
     }
 
+    const QString yilBasi = QString::number(Saat::Bugun().year());
+    for (const char* hangi : {"T", "D"}) {
+        const QString h = QString::fromLatin1(hangi);
+        const QString dosya = QDir(cikti).filePath(QStringLiteral("defter_%1.pdf").arg(h));
+        defterYaz(veri, h, RaporSuzgecleri::Acilis(yilBasi, h), dosya);
+        yazilanlar << dosya;
+    }
+
     std::printf("Formlar PDF olarak yazıldı: %s\n", qPrintable(cikti));
     for (const QString& dosya : yazilanlar)
         std::printf("  %s\n", qPrintable(dosya));
@@ -213,7 +282,7 @@ int Komutlar::Calistir(const QStringList& argumanlar, const QString& klasor, con
         if (komut == QLatin1String("ornek-veri"))
             return ornekVeri(argumanlar, secenek);
         if (komut != QLatin1String("ornek-formlar") && komut != QLatin1String("kod-plani-yukle")
-            && komut != QLatin1String("yazdir")) {
+            && komut != QLatin1String("yazdir") && komut != QLatin1String("rapor")) {
             hataYaz(QStringLiteral("Bilinmeyen komut: %1 (tasinir --help)").arg(komut));
             return 2;
         }
@@ -224,6 +293,8 @@ int Komutlar::Calistir(const QStringList& argumanlar, const QString& klasor, con
             return ornekFormlar(*veri, secenek.cikti);
         if (komut == QLatin1String("kod-plani-yukle"))
             return kodPlani(*veri, argumanlar);
+        if (komut == QLatin1String("rapor"))
+            return rapor(*veri, argumanlar, secenek);
         return yazdir(*veri, argumanlar, secenek);
     } catch (const Hata& h) {
         hataYaz(h.Mesaj());

@@ -10,7 +10,8 @@ struct Secenekler
 {
     QString satir;                       // ornek-veri: voucher lines
     bool gerekirse = false;              // ornek-veri: only into a folder without records
-    QString no, cins, yil, sayfa, cikti; // yazdir; cikti also for ornek-formlar
+    QString no, cins, yil, sayfa, cikti; // yazdir; cikti also for ornek-formlar and rapor
+    QString hangi, baslangic, bitis, hesap;  // rapor defter
 };
 
 // Runs the command word (the first of the arguments) on the data folder,

@@ -72,7 +72,8 @@ int main(int argc, char* argv[])
     const QCommandLineOption cikti(QStringLiteral("cikti"),
                                    QStringLiteral("ornek-formlar: PDF'lerin yazılacağı klasör "
                                                   "(varsayılan: veri klasöründe formlar); "
-                                                  "yazdir: yazılacak PDF dosyası."),
+                                                  "yazdir: yazılacak PDF dosyası; "
+                                                  "rapor: yazılacak PDF, CSV ya da XLSX dosyası."),
                                    QStringLiteral("klasör"));
     const QCommandLineOption no(QStringLiteral("no"), QStringLiteral("yazdir: fiş ya da tutanak numarası."),
                                 QStringLiteral("N"));
@@ -83,7 +84,18 @@ int main(int argc, char* argv[])
     const QCommandLineOption sayfa(QStringLiteral("sayfa"),
                                    QStringLiteral("yazdir: fis (varsayılan), zimmet ya da istek."),
                                    QStringLiteral("tür"));
-    parser.addOptions({veri, satir, gerekirse, cikti, no, cins, yil, sayfa});
+    const QCommandLineOption hangi(QStringLiteral("hangi"),
+                                   QStringLiteral("rapor defter: T tüketim malzemeleri, D dayanıklı taşınırlar."),
+                                   QStringLiteral("T|D"));
+    const QCommandLineOption baslangic(QStringLiteral("baslangic"),
+                                       QStringLiteral("rapor: başlama tarihi (varsayılan: T için çalışılan yılın "
+                                                      "başı, D için 01.01.1900)."),
+                                       QStringLiteral("gg.aa.yyyy"));
+    const QCommandLineOption bitis(QStringLiteral("bitis"), QStringLiteral("rapor: bitiş tarihi (varsayılan: bugün)."),
+                                   QStringLiteral("gg.aa.yyyy"));
+    const QCommandLineOption hesap(QStringLiteral("hesap"), QStringLiteral("rapor: yalnız bu hesap kodu."),
+                                   QStringLiteral("KOD"));
+    parser.addOptions({veri, satir, gerekirse, cikti, no, cins, yil, sayfa, hangi, baslangic, bitis, hesap});
     parser.addPositionalArgument(QStringLiteral("komut"),
                                  QStringLiteral("ornek-veri KLASÖR: boş bir klasöre örnek veri yazar.\n"
                                                 "ornek-formlar: örnek verinin formlarını PDF olarak yazar.\n"
@@ -91,6 +103,8 @@ int main(int argc, char* argv[])
                                                 "(kod<TAB>ad) yükler.\n"
                                                 "yazdir fis: kayıtlı bir fişin sayfasını PDF olarak yazar.\n"
                                                 "yazdir dusum: kayıtlı bir düşüm tutanağını PDF olarak yazar.\n"
+                                                "rapor defter: tüketim (T) ya da dayanıklı (D) defterini "
+                                                "PDF, CSV ya da XLSX olarak yazar.\n"
                                                 "Komut verilmezse program açılır."),
                                  QStringLiteral("[komut]"));
     parser.process(app);
@@ -101,7 +115,8 @@ int main(int argc, char* argv[])
     if (!komut.isEmpty())
         return Komutlar::Calistir(argumanlar, klasor,
                                   {parser.value(satir), parser.isSet(gerekirse), parser.value(no), parser.value(cins),
-                                   parser.value(yil), parser.value(sayfa), parser.value(cikti)});
+                                   parser.value(yil), parser.value(sayfa), parser.value(cikti), parser.value(hangi),
+                                   parser.value(baslangic), parser.value(bitis), parser.value(hesap)});
     try {
         return pencereli(klasor);
     } catch (const Hata& h) {

@@ -1,10 +1,9 @@
 #include "cikti.h"
 
+#include "kullanici_dosyasi.h"
+
 #include <QPainter>
 #include <QPdfWriter>
-#include <QTemporaryFile>
-
-#include <filesystem>
 
 void BellekCikti::Yaz(const Belge& belge)
 {
@@ -18,34 +17,23 @@ PdfCikti::PdfCikti(const QString& dosya)
 
 void PdfCikti::Yaz(const Belge& belge)
 {
-    // Written under a name of its own beside the target and checked as it
-    // lies on disk, since the painter reports no write error; then renamed
-    // over the target in one step, so a full disk leaves the old file, or
-    // none, never half of one.
-    QTemporaryFile gecici(m_dosya + QStringLiteral(".XXXXXX"));
-    const auto yazilamadi = [this](const QString& neden) {
-        return YaziciHatasi(QStringLiteral("\"%1\" yazılamadı (%2). Diskte yer ve klasörde yazma izni olduğunu "
-                                           "denetleyiniz.")
-                                .arg(m_dosya, neden));
-    };
-    if (!gecici.open())
-        throw yazilamadi(gecici.errorString());
-    {
-        QPdfWriter yazar(&gecici);
-        const double kenar = KenarTwip / 20;
-        yazar.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
-                                        QMarginsF(kenar, kenar, kenar, kenar), QPageLayout::Point));
-        if (!BelgeCiz(yazar, belge))
-            throw YaziciHatasi();
+    // Checked as it lies on disk, since the painter reports no write error.
+    try {
+        KullaniciDosyasi dosya(m_dosya);
+        {
+            QPdfWriter yazar(&dosya.Gecici());
+            const double kenar = KenarTwip / 20;
+            yazar.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
+                                            QMarginsF(kenar, kenar, kenar, kenar), QPageLayout::Point));
+            if (!BelgeCiz(yazar, belge))
+                throw dosya.Yazilamadi(QStringLiteral("belge eksik kaldı"));
+        }
+        dosya.Gecici().close();
+        dosya.Yerlestir(dosya.Gecici().error() == QFileDevice::NoError && PdfTamam(dosya.Gecici().fileName()));
+    } catch (const Hata& h) {
+        // The printing path drops the document on a printer failure.
+        throw YaziciHatasi(h.Mesaj());
     }
-    gecici.close();
-    if (gecici.error() != QFileDevice::NoError || !PdfTamam(gecici.fileName()))
-        throw yazilamadi(QStringLiteral("belge eksik kaldı"));
-    std::error_code hata;
-    std::filesystem::rename(gecici.fileName().toStdU16String(), m_dosya.toStdU16String(), hata);
-    if (hata)
-        throw yazilamadi(QString::fromLocal8Bit(hata.message()));
-    gecici.setAutoRemove(false);
 }
 
 bool PdfTamam(const QString& dosya)

@@ -1,4 +1,5 @@
 #include "cikti.h"
+#include "bicim.h"
 #include "fis_kayit.h"
 #include "komutlar.h"
 #include "ornek_veri.h"
@@ -52,6 +53,9 @@ private slots:
         QTest::addColumn<rlim_t>("sinir");
         QTest::newRow("ornek-formlar, disk dolu") << QStringList{u"ornek-formlar"_s} << QString() << rlim_t(1024);
         QTest::newRow("yazdir, disk dolu") << QStringList{u"yazdir"_s, u"fis"_s} << u"fis.pdf"_s << rlim_t(1024);
+        QTest::newRow("rapor csv, disk dolu") << QStringList{u"rapor"_s, u"defter"_s} << u"fis.csv"_s << rlim_t(256);
+        QTest::newRow("rapor xlsx, disk dolu") << QStringList{u"rapor"_s, u"defter"_s} << u"fis.xlsx"_s << rlim_t(256);
+        QTest::newRow("rapor pdf, disk dolu") << QStringList{u"rapor"_s, u"defter"_s} << u"fis.pdf"_s << rlim_t(256);
         QTest::newRow("yazdir, klasörü bir dosya") << QStringList{u"yazdir"_s, u"fis"_s} << u"engel/fis.pdf"_s
                                                    << rlim_t(RLIM_INFINITY);
     }
@@ -76,6 +80,7 @@ private slots:
         secenek.no = u"1"_s;
         secenek.cins = u"G"_s;
         secenek.yil = u"2025"_s;
+        secenek.hangi = u"D"_s;
         secenek.cikti = cikti.filePath(dosya);
         int sonuc = 0;
         {
@@ -140,6 +145,56 @@ private slots:
         const QString metin = QString::fromUtf8(surec.readAllStandardOutput());
         QVERIFY(metin.contains(u"KAYITTAN DÜŞME TEKLİF VE ONAY TUTANAĞI"_s));
         QVERIFY(metin.contains(dusum[2]));
+    }
+
+    // One ledger class to the three outputs: the closing sums of the CSV
+    // stand on the PDF's page and are numbers in the workbook.
+    void defterUcCiktidaAyni()
+    {
+        QTemporaryDir dizin;
+        QString kod;
+        {
+            Veri v(dizin.path());
+            OrnekVeriYaz(v, 300);
+            kod = v.Ayniyat().Satirlar(u"select HesapKod from FIS where Mid(HesapKod,1,3) <> '150' "
+                                       "group by HesapKod order by count(*) desc"_s).value(0).value(0);
+        }
+        Komutlar::Secenekler secenek;
+        secenek.hangi = u"X"_s, secenek.hesap = kod, secenek.cikti = dizin.filePath(u"d.csv"_s);
+        QCOMPARE(Komutlar::Calistir({u"rapor"_s, u"defter"_s}, dizin.path(), secenek), 2);
+        secenek.hangi = u"d"_s;
+        for (const char* uzanti : {"csv", "xlsx", "pdf"}) {
+            secenek.cikti = dizin.filePath(u"d."_s + QLatin1String(uzanti));
+            QCOMPARE(Komutlar::Calistir({u"rapor"_s, u"defter"_s}, dizin.path(), secenek), 0);
+        }
+        QFile csv(dizin.filePath(u"d.csv"_s));
+        QVERIFY(csv.open(QIODevice::ReadOnly));
+        const QStringList satirlar = QString::fromUtf8(csv.readAll()).split(u"\r\n"_s, Qt::SkipEmptyParts);
+        QStringList kapanis;
+        for (const QString& satir : satirlar)
+            if (satir.contains(u"SüreGelen"_s))
+                kapanis = satir.split(u';');
+        QCOMPARE(kapanis.size(), 17);
+        const QString solToplam = kapanis[6], sagMiktar = kapanis[11];
+        QVERIFY(!solToplam.isEmpty());
+
+        const auto cikar = [&](const QString& program, const QStringList& arg) {
+            const QString yol = QStandardPaths::findExecutable(program);
+            if (yol.isEmpty())
+                return QString();
+            QProcess surec;
+            surec.start(yol, arg);
+            surec.waitForFinished();
+            return QString::fromUtf8(surec.readAllStandardOutput());
+        };
+        const QString pdf = cikar(u"pdftotext"_s, {u"-enc"_s, u"UTF-8"_s, dizin.filePath(u"d.pdf"_s), u"-"_s});
+        const QString sayfa = cikar(u"unzip"_s, {u"-p"_s, dizin.filePath(u"d.xlsx"_s), u"xl/worksheets/sheet1.xml"_s});
+        if (pdf.isEmpty() || sayfa.isEmpty())
+            QSKIP("pdftotext or unzip is not installed");
+        QVERIFY(pdf.contains(solToplam));
+        QVERIFY(pdf.contains(sagMiktar));
+        const QString sayi = QString::number(SayiDegeri(solToplam).value(), 'g', 15);
+        QVERIFY2(sayfa.contains(u"<v>"_s + sayi + u"</v>"_s), qPrintable(sayi));
     }
 };
 

@@ -1,5 +1,6 @@
 #include "ekranlar.h"
 
+#include "def_tuketim2.h"
 #include "dusum.h"
 #include "fis_k.h"
 #include "hesap_k.h"
@@ -15,7 +16,8 @@ namespace {
 
 // A form exists once: opening it again brings the open one to the front, as
 // the menu's forms always did. `kur` runs when the form is made, `kipYaz`
-// each time the menu opens it, with the entry's mode values.
+// each time the menu opens it, with the entry's mode values: before the form
+// is shown, or after it where the entry says "HangiSonra".
 template <typename Form>
 EkranAcici tekOrnek(std::function<void(Form&)> kur = {},
                     std::function<void(Form&, const QVariantMap&)> kipYaz = {})
@@ -27,11 +29,14 @@ EkranAcici tekOrnek(std::function<void(Form&)> kur = {},
             if (kur)
                 kur(**ornek);
         }
-        if (kipYaz)
+        const bool sonra = kip.value(QStringLiteral("HangiSonra")).toBool();
+        if (kipYaz && !sonra)
             kipYaz(**ornek, kip);
         (*ornek)->show();
         (*ornek)->raise();
         (*ornek)->activateWindow();
+        if (kipYaz && sonra)
+            kipYaz(**ornek, kip);
     };
 }
 
@@ -56,6 +61,10 @@ void EkranlariTanimla(Menu& menu)
     menu.EkranTanimla(QStringLiteral("FIS_K"),
                       tekOrnek<FIS_K>([fis](FIS_K& f) { *fis = &f; },
                                       [](FIS_K& f, const QVariantMap& kip) { f.KipAyarla(kip); }));
+    menu.EkranTanimla(QStringLiteral("DefTuketim2"),
+                      tekOrnek<DefTuketim2>({}, [](DefTuketim2& d, const QVariantMap& kip) {
+                          d.HangiYaz(kip.value(QStringLiteral("Hangi")).toString());
+                      }));
     menu.EkranTanimla(QStringLiteral("Dusum"), tekOrnek<Dusum>([dusum](Dusum& d) { *dusum = &d; }));
     menu.EkranTanimla(QStringLiteral("HESAP_K"), tekOrnek<HESAP_K>());
     menu.EkranTanimla(QStringLiteral("Malzeme_L"), tekOrnek<Malzeme_L>());

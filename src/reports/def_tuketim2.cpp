@@ -1,0 +1,292 @@
+#include "def_tuketim2.h"
+
+#include "defter_kagidi.h"
+#include "kayit.h"
+#include "tarih_secici.h"
+#include "yazilir_kutu.h"
+
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFocusEvent>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace {
+
+// A code chosen from the range boxes stands before its name.
+QString kodu(const QComboBox* kutu)
+{
+    return kutu->currentText().section(QStringLiteral("  "), 0, 0).trimmed();
+}
+
+}
+
+DefTuketim2::DefTuketim2(const CalismaBaglami& baglam, QWidget* parent)
+    : RaporEkrani(baglam, QStringLiteral("8"), parent)
+{
+    auto* ust = new QWidget(this);
+    auto* baslik = new QHBoxLayout(ust);
+    baslik->setContentsMargins(0, 0, 0, 0);
+    BaslikAlani = Adli(new QLabel(ust), "BaslikAlani");
+    FCins2 = Adli(new QLabel(ust), "FCins2");
+    for (QLabel* e : {BaslikAlani, FCins2}) {
+        QFont yazi = e->font();
+        yazi.setPointSize(14);
+        e->setFont(yazi);
+        QPalette renk = e->palette();
+        renk.setColor(QPalette::WindowText, QColor(255, 0, 0));
+        e->setPalette(renk);
+        baslik->addWidget(e);
+    }
+    baslik->addStretch();
+    UsteEkle(ust);
+
+    const auto cerceve = [this](const QString& ad) {
+        auto* g = new QGroupBox(ad, this);
+        new QVBoxLayout(g);
+        PaneleEkle(g);
+        return g;
+    };
+    const auto tarih = [&](TarihSecici*& kutu, const char* ad, const QString& baslik) {
+        QGroupBox* g = cerceve(baslik);
+        kutu = Adli(new TarihSecici(g), ad);
+        kutu->installEventFilter(this);
+        g->layout()->addWidget(kutu);
+        // Toplu when a date was changed, not each time the box is left.
+        connect(kutu, &TarihSecici::editingFinished, this, [this] {
+            if (std::pair(Tarih->date(), Tarih1->date()) != m_tarihler)
+                Toplu();
+        });
+    };
+    tarih(Tarih, "Tarih", QStringLiteral("Başlama Tarihi"));
+    tarih(Tarih1, "Tarih1", QStringLiteral("Bitiş Tarihi"));
+
+    const auto kutu = [&](QComboBox*& k, const char* ad, QGroupBox* g) {
+        k = YazilirKutu(g, QString::fromLatin1(ad));
+        k->installEventFilter(this);
+        g->layout()->addWidget(k);
+    };
+    QGroupBox* aralik = cerceve(QStringLiteral("Hesap Kod Aralığı"));
+    kutu(HesapKod5, "HesapKod5", aralik);
+    kutu(HesapKod6, "HesapKod6", aralik);
+    kutu(TekMalzeme, "TekMalzeme", cerceve(QStringLiteral("Tek Malzeme Listeleme")));
+    QGroupBox* ambar = cerceve(QStringLiteral("Ambar No"));
+    AmbarNo = Adli(new QLineEdit(ambar), "AmbarNo");
+    Check2 = Adli(new QCheckBox(QStringLiteral("Tüm Ambarlar"), ambar), "Check2");
+    ambar->layout()->addWidget(AmbarNo);
+    ambar->layout()->addWidget(Check2);
+    kutu(UniteAd, "UniteAd", cerceve(QStringLiteral("Ünite Seçim")));
+    kutu(KimeVerildigi, "KimeVerildigi", cerceve(QStringLiteral("Kime Verildiği")));
+    kutu(Ozellik, "Ozellik", cerceve(QStringLiteral("Özellik")));
+    Check1 = Adli(new QCheckBox(QStringLiteral("Boşları Gösterme"), this), "Check1");
+    PaneleEkle(Check1);
+    QGroupBox* kdv = cerceve(QStringLiteral("KDV"));
+    Option1 = Adli(new QRadioButton(QStringLiteral("Ekle"), kdv), "Option1");
+    Option2 = Adli(new QRadioButton(QStringLiteral("Ekleme"), kdv), "Option2");
+    Option1->setChecked(true);
+    kdv->layout()->addWidget(Option1);
+    kdv->layout()->addWidget(Option2);
+    QGroupBox* satir = cerceve(QStringLiteral("Satır Sayı"));
+    SatirSayi = Adli(new QLineEdit(QStringLiteral("53"), satir), "SatirSayi");
+    SatirSayi->setToolTip(QStringLiteral("45 ile 56 Arası Rakam olmalı."));
+    satir->layout()->addWidget(SatirSayi);
+
+    Command3->setText(QStringLiteral("F5_ Sonraki Sınıf"));
+    Command1 = Dugme("Command1", QStringLiteral("F4_ Sonraki Sayfa Yaz"));
+    Command16 = Dugme("Command16", QStringLiteral("Yeniden Liste"));
+
+    // A typed beginning narrows the names offered.
+    connect(TekMalzeme, &QComboBox::editTextChanged, this, [this] {
+        if (TekMalzeme->hasFocus())
+            ListeleriDoldur(TekMalzeme);
+    });
+    connect(TekMalzeme, &QComboBox::activated, this, [this] {
+        // One material leaves no room for a code range.
+        HesapKod5->setEditText(QString());
+        HesapKod6->setEditText(QString());
+        Toplu();
+    });
+    for (QComboBox* k : {HesapKod6, UniteAd, KimeVerildigi, Ozellik})
+        connect(k, &QComboBox::activated, this, &DefTuketim2::Toplu);
+    connect(AmbarNo, &QLineEdit::returnPressed, this, &DefTuketim2::Toplu);
+    connect(Check2, &QCheckBox::toggled, this, [this](bool secili) {
+        if (secili) {
+            AmbarNo->clear();
+            Toplu();
+        }
+    });
+    for (QRadioButton* op : {Option1, Option2})
+        connect(op, &QRadioButton::toggled, this, [this](bool secili) {
+            if (secili)
+                Toplu();
+        });
+    connect(Command1, &QPushButton::clicked, this, &DefTuketim2::Command1Calistir);
+    connect(Command16, &QPushButton::clicked, this, &DefTuketim2::YenidenListe);
+    TusTanimla(QKeySequence(Qt::Key_F4), [this] { Command1Calistir(); });
+
+    const RaporSuzgeci acilis = RaporSuzgecleri::Acilis(Baglam().CalisYil, m_hangi);
+    Tarih->GunYaz(acilis.Tarih);
+    Tarih1->GunYaz(acilis.Tarih1);
+    setWindowTitle(QStringLiteral("Tüketim Malzemeleri Defteri"));
+    resize(Piksel(15360), 720);
+}
+
+void DefTuketim2::HangiYaz(const QString& hangi)
+{
+    m_hangi = hangi;
+    setWindowTitle(hangi == u"D" ? QStringLiteral("Dayanıklı Malzeme Defteri")
+                                 : QStringLiteral("Tüketim Malzemeleri Defteri"));
+    const RaporSuzgeci acilis = RaporSuzgecleri::Acilis(Baglam().CalisYil, hangi);
+    Tarih->GunYaz(acilis.Tarih);
+    Tarih1->GunYaz(acilis.Tarih1);
+    Toplu();
+}
+
+RaporSuzgeci DefTuketim2::Suzgec() const
+{
+    RaporSuzgeci s;
+    s.Tarih = Tarih->date();
+    if (!Tarih1->Bos())
+        s.Tarih1 = Tarih1->date();
+    s.HesapKod5 = kodu(HesapKod5);
+    s.HesapKod6 = kodu(HesapKod6);
+    s.TekMalzeme = TekMalzeme->currentText();
+    s.AmbarNo = AmbarNo->text();
+    s.TumAmbarlar = Check2->isChecked();
+    for (const RaporListeleri::KodAd& u : m_uniteler)
+        if (u.ad == UniteAd->currentText())
+            s.Unite = u.kod;
+    s.KimeVerildigi = KimeVerildigi->currentText();
+    s.Ozellik = Ozellik->currentText();
+    s.SonrakiSinif = m_sonrakiSinif;
+    return s;
+}
+
+void DefTuketim2::Baslik(const Defter::Sinif& sinif)
+{
+    m_sinifKod = sinif.HesapKod;
+    BaslikAlani->setText((m_hangi == u"D" ? QStringLiteral("Dayanıklı Malzeme Defteri        ")
+                                          : QStringLiteral("Tüketim Malzemeleri Defteri      "))
+                         + sinif.HesapKod + QStringLiteral("  "));
+    FCins2->setText(sinif.MalzAdi);
+}
+
+void DefTuketim2::Toplu()
+{
+    if (Yuruyor())
+        return;
+    m_tarihler = {Tarih->date(), Tarih1->date()};
+    const RaporSuzgeci s = Suzgec();
+    const bool kdvEkle = Option1->isChecked();
+    QList<Defter::Sinif> siniflar;
+    if (!Dene([&] { siniflar = Defter::Siniflar(Genel(), s, m_hangi); }))
+        return;
+    ListeyiTemizle();
+    if (siniflar.isEmpty()) {
+        Bildir(QStringLiteral("  Malzeme Kaydı Bulunamadı .. "));
+        return;
+    }
+    const bool bitti = Yuru(int(siniflar.size()), [&](int i) {
+        const Defter::Sinif& sinif = siniflar.at(i);
+        Baslik(sinif);
+        Defter::Sonuc sonuc;
+        if (!Dene([&] { sonuc = Defter::Hesapla(Ayniyat(), Genel(), s, m_hangi, kdvEkle, sinif); }))
+            return false;
+        if (!sonuc.kayitVar) {
+            if (!Check1->isChecked())
+                Bildir(QStringLiteral(" Kayıt Bulunamadı .. "));
+            return true;
+        }
+        Goster(sonuc.tablo);
+        if (!Sor(QStringLiteral("  YENi Malzeme Dökümü Devam Edecek mi ?  ")))
+            return false;
+        ListeyiTemizle();
+        return true;
+    });
+    if (bitti)
+        Bildir(QStringLiteral("  Bitti... "));
+}
+
+void DefTuketim2::Command3Calistir()
+{
+    m_sonrakiSinif = m_sinifKod;
+    Toplu();
+}
+
+void DefTuketim2::Command1Calistir()
+{
+    if (Yuruyor())
+        return;
+    SayfaNo->setText(QString::number(int(Val(SayfaNo->text())) + 1));
+    Command3Calistir();
+    YaziciT();
+}
+
+void DefTuketim2::YenidenListe()
+{
+    for (QComboBox* k : {HesapKod5, HesapKod6, TekMalzeme, UniteAd, KimeVerildigi, Ozellik})
+        k->setEditText(QString());
+    AmbarNo->clear();
+    m_sonrakiSinif.clear();
+    Toplu();
+}
+
+RaporKagidi DefTuketim2::Kagit() const
+{
+    return Defter::Kagit(Suzgec(), int(Val(SatirSayi->text())));
+}
+
+QStringList DefTuketim2::Etiketler() const
+{
+    return Defter::Etiketler();
+}
+
+void DefTuketim2::ListeleriDoldur(QComboBox* kutu)
+{
+    // Refilling changes the box's text for a moment; nobody is told.
+    const QSignalBlocker sessiz(kutu);
+    Dene([&] {
+        if (kutu == KimeVerildigi)
+            ListeDoldur(KimeVerildigi, RaporListeleri::KimeVerildigi(Ayniyat(), m_hangi));
+        else if (kutu == Ozellik)
+            ListeDoldur(Ozellik, RaporListeleri::Ozellik(Ayniyat(), m_hangi));
+        else if (kutu == TekMalzeme)
+            ListeDoldur(TekMalzeme, RaporListeleri::Malzemeler(Genel(), m_hangi, TekMalzeme->currentText()));
+        else if (kutu == UniteAd) {
+            m_uniteler = RaporListeleri::Uniteler(Genel());
+            QStringList adlar;
+            for (const RaporListeleri::KodAd& u : m_uniteler)
+                adlar << u.ad;
+            ListeDoldur(UniteAd, adlar);
+        } else {
+            QStringList kodlar;
+            for (const RaporListeleri::KodAd& k : RaporListeleri::HesapKodlari(Genel(), m_hangi))
+                kodlar << k.kod + QStringLiteral("  ") + k.ad;
+            ListeDoldur(kutu, kodlar);
+        }
+    });
+}
+
+bool DefTuketim2::eventFilter(QObject* nesne, QEvent* olay)
+{
+    if ((nesne == Tarih || nesne == Tarih1) && olay->type() == QEvent::KeyPress) {
+        const int tus = static_cast<QKeyEvent*>(olay)->key();
+        if (tus == Qt::Key_Return || tus == Qt::Key_Enter) {
+            Toplu();
+            return true;
+        }
+    }
+    // A box fills its list when the user comes to it, not when a message
+    // or its own list hands the focus back.
+    if (auto* kutu = qobject_cast<QComboBox*>(nesne); kutu && olay->type() == QEvent::FocusIn) {
+        const Qt::FocusReason neden = static_cast<QFocusEvent*>(olay)->reason();
+        if (neden != Qt::ActiveWindowFocusReason && neden != Qt::PopupFocusReason)
+            ListeleriDoldur(kutu);
+    }
+    return RaporEkrani::eventFilter(nesne, olay);
+}

@@ -153,7 +153,7 @@ int defterYaz(Veri& veri, const QString& hangi, const RaporSuzgeci& s, const QSt
         RaporBelgeleri::Dosya(dosya, Defter::Kagit(s, DefterSatirSayisi), DefterYaziBoyu, 2, sayfaNo);
     int siniflar = 0;
     for (const Defter::Sinif& sinif : Defter::Siniflar(veri.Genel(), s, hangi)) {
-        Defter::Sonuc sonuc = Defter::Hesapla(veri.Ayniyat(), veri.Genel(), s, hangi, false, sinif);
+        Defter::Sonuc sonuc = Defter::Hesapla(veri.Ayniyat(), veri.Genel(), s, hangi, true, sinif);
         if (sonuc.tablo.satirlar.isEmpty())
             continue;
         sonuc.tablo.ustBilgi = RaporBelgeleri::UstBilgi(sabit, sonuc.tablo, Defter::Etiketler());

@@ -4,7 +4,6 @@
 #include "kayit.h"
 #include "rapor_belgesi.h"
 #include "sabit_kayit.h"
-#include "yazici.h"
 
 #include <QAbstractTableModel>
 #include <QApplication>
@@ -65,29 +64,6 @@ public:
 private:
     const RaporTablosu& m_tablo;
 };
-
-namespace {
-
-// Hands the report's pages to the screen's printer as they are, so that the
-// paper goes where every other document of the screen goes.
-class YaziciyaAktar : public Cikti
-{
-public:
-    explicit YaziciyaAktar(Yazici& p) : m_p(p) {}
-    void Yaz(const Belge& belge) override
-    {
-        for (const Sayfa& sayfa : belge) {
-            m_p.PaintPicture(sayfa);
-            m_p.NewPage();
-        }
-        m_p.EndDoc();
-    }
-
-private:
-    Yazici& m_p;
-};
-
-}
 
 RaporEkrani::RaporEkrani(const CalismaBaglami& baglam, const QString& yaziBoyu, QWidget* parent)
     : KartEkrani(baglam, parent)
@@ -322,9 +298,8 @@ void RaporEkrani::YaziciT()
         const RaporKagidi kagit = Kagit();
         int sayfa = int(Val(SayfaNo->text()));
         bool bitti = false;
-        Yazdir([&](Yazici& p) {
-            YaziciyaAktar aktar(p);
-            std::unique_ptr<RaporBelgesi> belge = RaporBelgeleri::Kagit(aktar, kagit, YaziBoyu(), Yon(), sayfa);
+        CiktiyaYaz([&](Cikti& cikti) {
+            std::unique_ptr<RaporBelgesi> belge = RaporBelgeleri::Kagit(cikti, kagit, YaziBoyu(), Yon(), sayfa);
             belge->Ekle(t);
             belge->Bitir();
             bitti = true;

@@ -80,16 +80,23 @@ void KartEkrani::Komut(const std::function<void()>& is)
     }
 }
 
-void KartEkrani::Yazdir(const std::function<void(Yazici&)>& is)
+void KartEkrani::CiktiyaYaz(const std::function<void(Cikti&)>& is)
 {
     OnizlemeCikti onizleme(this);
-    Yazici p(m_cikti ? m_cikti : &onizleme);
     try {
-        is(p);
+        is(m_cikti ? *m_cikti : onizleme);
     } catch (const YaziciHatasi& h) {
-        p.KillDoc();
         Bildir(h.Mesaj(), windowTitle(), QMessageBox::Critical);
     }
+}
+
+void KartEkrani::Yazdir(const std::function<void(Yazici&)>& is)
+{
+    // A document cut short by a failure goes with its printer.
+    CiktiyaYaz([&](Cikti& cikti) {
+        Yazici p(&cikti);
+        is(p);
+    });
 }
 
 MesgulImlec::MesgulImlec()

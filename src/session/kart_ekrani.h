@@ -57,6 +57,8 @@ protected:
     // Prints through the screen's output; a printer failure shows
     // "Belge yazdırılamıyor.." and drops the document.
     void Yazdir(const std::function<void(Yazici&)>& is);
+    // The same for documents that make their own printer on the output.
+    void CiktiyaYaz(const std::function<void(Cikti&)>& is);
 
 private:
     CalismaBaglami m_baglam;

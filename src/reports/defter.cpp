@@ -16,6 +16,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstring>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -261,6 +262,29 @@ struct FisSatiri
     double kdv;
     std::uint32_t tarih, fisNo, islem, unite, kime, ozellik;
     bool dusum;
+    // For the walk: the line's class group and the keys of its order.
+    std::uint32_t grup, satir;
+    qint64 rowid;
+};
+// Lines held in pieces, so that a million of them do not move to grow.
+class FisSatirlari
+{
+public:
+    FisSatiri& Ekle(const FisSatiri& s)
+    {
+        if (m_sayi % parca == 0)
+            m_parcalar.push_back(std::make_unique<FisSatiri[]>(parca));
+        FisSatiri& yer = m_parcalar.back()[m_sayi++ % parca];
+        yer = s;
+        return yer;
+    }
+    const FisSatiri& operator[](std::size_t i) const { return m_parcalar[i / parca][i % parca]; }
+    std::size_t Sayi() const { return m_sayi; }
+
+private:
+    static constexpr std::size_t parca = 4096;
+    std::vector<std::unique_ptr<FisSatiri[]>> m_parcalar;
+    std::size_t m_sayi = 0;
 };
 
 // What the lines of a run share: the pools of their texts, the unit names
@@ -278,7 +302,7 @@ public:
 
     FisSatiri Oku(sqlite3_stmt* q)
     {
-        FisSatiri s;
+        FisSatiri s{};
         s.miktar = sayi(sqlite3_column_value(q, sMiktar));
         s.cikan = sayi(sqlite3_column_value(q, sCikan));
         s.fiyat = sayi(sqlite3_column_value(q, sBirimFiyat));
@@ -344,7 +368,7 @@ private:
 
 // The ledger of one class from its lines in the statement's order
 // (FisNo, Tarih, Satir).
-Sonuc sinifDefteri(Okuma& o, const std::vector<FisSatiri>& satirlar, const std::uint32_t* sira, std::size_t adet,
+Sonuc sinifDefteri(Okuma& o, const FisSatirlari& satirlar, const std::uint32_t* sira, std::size_t adet,
                    bool dayanikli, bool kdvEkle, const Sinif& sinif)
 {
     Sonuc sonuc;
@@ -490,10 +514,10 @@ Sonuc Hesapla(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s, con
                                 + QStringLiteral(" and HesapKod = ? order by FisNo, Tarih, Satir, rowid  "),
                    k.degerler);
     Okuma o(genel, kdvEkle);
-    std::vector<FisSatiri> satirlar;
+    FisSatirlari satirlar;
     while (q.Sonraki())
-        satirlar.push_back(o.Oku(q.Komut()));
-    return sinifDefteri(o, satirlar, nullptr, satirlar.size(), hangi == u"D", kdvEkle, sinif);
+        satirlar.Ekle(o.Oku(q.Komut()));
+    return sinifDefteri(o, satirlar, nullptr, satirlar.Sayi(), hangi == u"D", kdvEkle, sinif);
 }
 
 void Hepsi(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s, const QString& hangi, bool kdvEkle,
@@ -522,14 +546,7 @@ void Hepsi(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s, const 
                                 + QStringLiteral(" from FIS not indexed Where HesapKod between ? and ? and ") + k.sql,
                    k.degerler);
     Okuma o(genel, kdvEkle);
-    struct Anahtar
-    {
-        std::uint32_t grup, fisNo, tarih, satir;
-        qint64 rowid;
-        std::uint32_t satirNo;
-    };
-    std::vector<FisSatiri> satirlar;
-    std::vector<Anahtar> anahtarlar;
+    FisSatirlari satirlar;
     std::string sonKod;
     std::uint32_t sonGrup = yok;
     while (q.Sonraki()) {
@@ -546,10 +563,10 @@ void Hepsi(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s, const 
         }
         if (sonGrup == yok)
             continue;
-        const FisSatiri satir = o.Oku(c);
-        anahtarlar.push_back({sonGrup, satir.fisNo, satir.tarih, o.satir.Al(sqlite3_column_value(c, sSatir)),
-                              sqlite3_value_int64(sqlite3_column_value(c, sRowid)), std::uint32_t(satirlar.size())});
-        satirlar.push_back(satir);
+        FisSatiri& satir = satirlar.Ekle(o.Oku(c));
+        satir.grup = sonGrup;
+        satir.satir = o.satir.Al(sqlite3_column_value(c, sSatir));
+        satir.rowid = sqlite3_value_int64(sqlite3_column_value(c, sRowid));
     }
 
     // order by FisNo, Tarih, Satir inside each group; ties by rowid, as the
@@ -557,10 +574,18 @@ void Hepsi(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s, const 
     const std::vector<std::uint32_t> fisNoSira = o.fisNo.Siralar();
     const std::vector<std::uint32_t> tarihSira = o.tarih.Siralar();
     const std::vector<std::uint32_t> satirSira = o.satir.Siralar();
-    for (Anahtar& a : anahtarlar) {
-        a.fisNo = fisNoSira[a.fisNo];
-        a.tarih = tarihSira[a.tarih];
-        a.satir = satirSira[a.satir];
+    struct Anahtar
+    {
+        std::uint32_t grup, fisNo, tarih, satir;
+        qint64 rowid;
+        std::uint32_t satirNo;
+    };
+    std::vector<Anahtar> anahtarlar;
+    anahtarlar.reserve(satirlar.Sayi());
+    for (std::size_t i = 0; i < satirlar.Sayi(); ++i) {
+        const FisSatiri& f = satirlar[i];
+        anahtarlar.push_back({f.grup, fisNoSira[f.fisNo], tarihSira[f.tarih], satirSira[f.satir], f.rowid,
+                              std::uint32_t(i)});
     }
     std::sort(anahtarlar.begin(), anahtarlar.end(), [](const Anahtar& a, const Anahtar& b) {
         return std::tie(a.grup, a.fisNo, a.tarih, a.satir, a.rowid) < std::tie(b.grup, b.fisNo, b.tarih, b.satir, b.rowid);

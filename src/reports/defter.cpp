@@ -542,31 +542,37 @@ void Hepsi(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s, const 
     SqlParcasi k = RaporSuzgecleri::SatirKosulu(s);
     k.degerler.prepend(siniflar.last().HesapKod);
     k.degerler.prepend(siniflar.first().HesapKod);
-    SatirOkuyucu q(ayniyat, QStringLiteral("Select ") + fisSutunlari
-                                + QStringLiteral(" from FIS not indexed Where HesapKod between ? and ? and ") + k.sql,
-                   k.degerler);
     Okuma o(genel, kdvEkle);
     FisSatirlari satirlar;
-    std::string sonKod;
-    std::uint32_t sonGrup = yok;
-    while (q.Sonraki()) {
-        sqlite3_stmt* c = q.Komut();
-        const Deger hesapKod = sqlite3_column_value(c, sHesapKod);
-        if (sqlite3_value_type(hesapKod) != SQLITE_TEXT)
-            continue;
-        const std::string_view kod = baytlar(hesapKod);
-        if (kod != sonKod) {
-            sonKod.assign(kod);
-            nocaseAnahtar(kod, anahtar);
-            const auto bulunan = gruplar.find(anahtar);
-            sonGrup = bulunan == gruplar.end() ? yok : bulunan->second;
+    {
+        // The statement is gone before the first class goes out: no read
+        // stays open while the caller asks about each class.
+        SatirOkuyucu q(ayniyat, QStringLiteral("Select ") + fisSutunlari
+                                    + QStringLiteral(" from FIS not indexed Where HesapKod between ? and ? and ") + k.sql,
+                       k.degerler);
+        std::string sonKod;
+        std::uint32_t sonGrup = yok;
+        bool ilk = true;
+        while (q.Sonraki()) {
+            sqlite3_stmt* c = q.Komut();
+            const Deger hesapKod = sqlite3_column_value(c, sHesapKod);
+            if (sqlite3_value_type(hesapKod) != SQLITE_TEXT)
+                continue;
+            const std::string_view kod = baytlar(hesapKod);
+            if (ilk || kod != sonKod) {
+                ilk = false;
+                sonKod.assign(kod);
+                nocaseAnahtar(kod, anahtar);
+                const auto bulunan = gruplar.find(anahtar);
+                sonGrup = bulunan == gruplar.end() ? yok : bulunan->second;
+            }
+            if (sonGrup == yok)
+                continue;
+            FisSatiri& satir = satirlar.Ekle(o.Oku(c));
+            satir.grup = sonGrup;
+            satir.satir = o.satir.Al(sqlite3_column_value(c, sSatir));
+            satir.rowid = sqlite3_value_int64(sqlite3_column_value(c, sRowid));
         }
-        if (sonGrup == yok)
-            continue;
-        FisSatiri& satir = satirlar.Ekle(o.Oku(c));
-        satir.grup = sonGrup;
-        satir.satir = o.satir.Al(sqlite3_column_value(c, sSatir));
-        satir.rowid = sqlite3_value_int64(sqlite3_column_value(c, sRowid));
     }
 
     // order by FisNo, Tarih, Satir inside each group; ties by rowid, as the

@@ -210,41 +210,82 @@ HazirKomut::~HazirKomut()
     sqlite3_finalize(m_komut);
 }
 
-int HazirKomut::Calistir(const QVariantList& degerler)
+namespace {
+
+// Binds the values in order straight on the engine, as Veritabani::Sorgu
+// binds them through the driver; the engine's code of the first failure.
+int baglaMotorda(sqlite3_stmt* komut, const QVariantList& degerler)
 {
-    auto* db = sqlite3_db_handle(m_komut);
     int sira = 0;
     for (const QVariant& deger : degerler) {
         ++sira;
         int rc;
         switch (deger.typeId()) {
         case QMetaType::UnknownType:
-            rc = sqlite3_bind_null(m_komut, sira);
+            rc = sqlite3_bind_null(komut, sira);
             break;
         case QMetaType::Int:
         case QMetaType::LongLong:
         case QMetaType::UInt:
         case QMetaType::Bool:
-            rc = sqlite3_bind_int64(m_komut, sira, deger.toLongLong());
+            rc = sqlite3_bind_int64(komut, sira, deger.toLongLong());
             break;
         case QMetaType::Double:
-            rc = sqlite3_bind_double(m_komut, sira, deger.toDouble());
+            rc = sqlite3_bind_double(komut, sira, deger.toDouble());
             break;
         default: {
             // A null text is empty text here too.
             const QByteArray metin = deger.toString().toUtf8();
-            rc = sqlite3_bind_text(m_komut, sira, metin.constData(), int(metin.size()), SQLITE_TRANSIENT);
+            rc = sqlite3_bind_text(komut, sira, metin.constData(), int(metin.size()), SQLITE_TRANSIENT);
         }
         }
         if (rc != SQLITE_OK)
-            throw m_vt.Hata(db);
+            return rc;
     }
+    return SQLITE_OK;
+}
+
+}
+
+int HazirKomut::Calistir(const QVariantList& degerler)
+{
+    auto* db = sqlite3_db_handle(m_komut);
+    if (baglaMotorda(m_komut, degerler) != SQLITE_OK)
+        throw m_vt.Hata(db);
     const int rc = sqlite3_step(m_komut);
     sqlite3_reset(m_komut);
     sqlite3_clear_bindings(m_komut);
     if (rc != SQLITE_DONE && rc != SQLITE_ROW)
         throw m_vt.Hata(db);
     return sqlite3_changes(db);
+}
+
+SatirOkuyucu::SatirOkuyucu(Veritabani& vt, const QString& sql, const QVariantList& degerler) : m_vt(vt)
+{
+    auto* db = static_cast<sqlite3*>(vt.Tutamac());
+    const QByteArray metin = sql.toUtf8();
+    if (sqlite3_prepare_v2(db, metin.constData(), int(metin.size()), &m_komut, nullptr) != SQLITE_OK)
+        throw vt.Hata(db);
+    if (baglaMotorda(m_komut, degerler) != SQLITE_OK) {
+        const VeriHatasi hata = vt.Hata(db);
+        sqlite3_finalize(m_komut);
+        throw hata;
+    }
+}
+
+SatirOkuyucu::~SatirOkuyucu()
+{
+    sqlite3_finalize(m_komut);
+}
+
+bool SatirOkuyucu::Sonraki()
+{
+    const int rc = sqlite3_step(m_komut);
+    if (rc == SQLITE_ROW)
+        return true;
+    if (rc == SQLITE_DONE)
+        return false;
+    throw m_vt.Hata(sqlite3_db_handle(m_komut));
 }
 
 QList<QStringList> Veritabani::Satirlar(const QString& sql, const QVariantList& degerler)

@@ -13,6 +13,7 @@
 class HazirKomut;
 class QSqlError;
 struct sqlite3;
+struct sqlite3_stmt;
 
 // The application id every file of ours carries in its header.
 constexpr int UygulamaKimligi = 0x54534E52;  // "TSNR"
@@ -52,6 +53,7 @@ public:
 
 private:
     friend class HazirKomut;
+    friend class SatirOkuyucu;
     void Ac(bool yeni);
     // The engine's result code turned into what the user can do, the
     // engine's own text after it as the detail.
@@ -80,6 +82,27 @@ public:
 private:
     Veritabani& m_vt;
     struct sqlite3_stmt* m_komut = nullptr;
+};
+
+// A reading statement run straight on the engine, for the reports that
+// read many rows: the driver makes a QVariant of every value, which costs
+// more than the row itself. Values bind as in Veritabani::Sorgu. The row's
+// columns are read with sqlite3_column_* on Komut().
+class SatirOkuyucu
+{
+public:
+    // Prepares, binds and stands before the first row; throws VeriHatasi.
+    SatirOkuyucu(Veritabani& vt, const QString& sql, const QVariantList& degerler = {});
+    ~SatirOkuyucu();
+    SatirOkuyucu(const SatirOkuyucu&) = delete;
+    SatirOkuyucu& operator=(const SatirOkuyucu&) = delete;
+    // Steps to the next row; false after the last. Throws VeriHatasi.
+    bool Sonraki();
+    sqlite3_stmt* Komut() const { return m_komut; }
+
+private:
+    Veritabani& m_vt;
+    sqlite3_stmt* m_komut = nullptr;
 };
 
 // Writes that belong together: BEGIN IMMEDIATE now, ROLLBACK unless Onayla

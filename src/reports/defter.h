@@ -6,6 +6,8 @@
 #include <QList>
 #include <QString>
 
+#include <functional>
+
 class Veritabani;
 
 // The ledgers of the screen DefTuketim2: consumables (Hangi "T", TMY-1) and
@@ -44,6 +46,17 @@ struct Sonuc
 Sonuc Hesapla(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s, const QString& hangi, bool kdvEkle,
               const Sinif& sinif);
 
+// The walk over every class of Siniflar in code order with one pass over
+// FIS: `her` gets each class's ledger, as Hesapla gives it, also for a
+// class without lines (kayitVar false). It answers false to stop the walk
+// (Esc). Only one class's rows are held at a time.
+void Hepsi(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s, const QString& hangi, bool kdvEkle,
+           const std::function<bool(const Sinif&, Sonuc&&)>& her);
+
 const QList<RaporSutunu>& Sutunlar();
+
+// The cells' figures: Format(x, "#####,###.#0"), which "##,###,###.#0"
+// also gives, without reading the pattern at every cell.
+QString MiktarBicimi(double x);
 
 }

@@ -1,3 +1,4 @@
+#include "bicim.h"
 #include "defter.h"
 #include "dusum_kayit.h"
 #include "fis_kayit.h"
@@ -7,6 +8,9 @@
 #include "veri.h"
 
 #include <QtTest>
+
+#include <cmath>
+#include <random>
 
 using namespace Qt::StringLiterals;
 using namespace Defter;
@@ -40,6 +44,33 @@ class TstDefter : public QObject, protected GeciciVeri
     {
         const RaporSuzgeci s = RaporSuzgecleri::Acilis(u"2026"_s, hangi);
         return Hesapla(veri().Ayniyat(), veri().Genel(), s, hangi, kdvEkle, {kod, u"Ad"_s, u"ADET"_s});
+    }
+
+    void sinif(const QString& kod)
+    {
+        veri().Genel().Calistir(u"insert into URUN_K (HesapKod, MalzAdi, Birimi) values (?, ?, 'ADET')"_s,
+                                {kod, u"Ad "_s + kod});
+    }
+
+    // A line written straight into FIS, as transferred data can hold it.
+    void satir(const QVariant& fisNo, const QString& tarih, int satirNo, const QString& kod, const QString& miktar,
+               const QString& cikan, const QString& fcinss = {})
+    {
+        veri().Ayniyat().Calistir(u"insert into FIS (Tarih, FisNo, FCins, FCinss, Satir, HesapKod, Miktar, Cikan, "
+                                  "BirimFiyat, KDV, IslemTur, Unite, Ozellik) values (?, ?, 'G', ?, ?, ?, ?, ?, "
+                                  "'2,5', 18, 1, '3', 'EL')"_s,
+                                  {tarih, fisNo, fcinss, satirNo, kod, miktar, cikan});
+    }
+
+    static void ayniMi(const Sonuc& a, const Sonuc& b)
+    {
+        QCOMPARE(a.kayitVar, b.kayitVar);
+        QCOMPARE(a.tablo.baslik, b.tablo.baslik);
+        QCOMPARE(a.tablo.satirlar.size(), b.tablo.satirlar.size());
+        for (qsizetype i = 0; i < a.tablo.satirlar.size(); ++i) {
+            QCOMPARE(a.tablo.satirlar[i].tur, b.tablo.satirlar[i].tur);
+            QCOMPARE(a.tablo.satirlar[i].hucreler, b.tablo.satirlar[i].hucreler);
+        }
     }
 
     // The cells of a row, from..to inclusive.
@@ -176,6 +207,86 @@ private slots:
         QCOMPARE(hucreler(r, SagMiktar, SagTutar), (QStringList{"3,00", "12,50", "37,50"}));
         // The consumables ledger leaves such a line's left half empty.
         QCOMPARE(hucreler(defter(u"T"_s, k).tablo.satirlar.first(), SolSira, SolTutar).join(QString()), QString());
+    }
+
+    // The walk over every class gives what each class gives alone: lines
+    // saved out of order, numbers and texts in FisNo, one-digit dates, ties
+    // in the three keys, a code in other letter case, a class without lines.
+    void hepsiSinifSinifHesaplaIleAyni()
+    {
+        const QString t1 = u"150 01 01 001"_s, t2 = u"150 01 02 001"_s, t3 = u"150 01 03 001"_s;
+        const QString d1 = u"255 01 01 001"_s, d2 = u"255 AB 01 001"_s;
+        for (const QString& k : {t3, t1, t2, d2, d1})
+            sinif(k);
+        fis(u"9"_s, u"01.02.2026"_s, u"C"_s, {{t1, {}, u"3"_s, u"2"_s, u"18"_s, u"10"_s, u"3"_s, u"ALİ"_s}});
+        fis(u"2"_s, u"02.03.2026"_s, u"G"_s, {{t1, u"5"_s, u"3,3"_s, {}, u"18"_s, u"1"_s}, {t3, u"1"_s, u"7"_s}});
+        fis(u"10"_s, u"05.01.2020"_s, u"G"_s, {{d1, u"4"_s, u"100"_s, {}, {}, u"1"_s}, {d1, u"2"_s, u"50"_s}});
+        DusumEkrani dusum;
+        dusum.FisNo = u"1"_s, dusum.Tarih = u"14.03.2026"_s, dusum.CalisYil = u"2026"_s, dusum.CalisAy = u"3"_s;
+        QStringList d(DusumSutun::Sayi);
+        d[DusumSutun::HesapKod] = d1, d[DusumSutun::Miktar] = u"2"_s, d[DusumSutun::Tarih] = u"05.01.2020"_s;
+        d[DusumSutun::FisNo] = u"10"_s, d[DusumSutun::Satir] = u"2"_s;
+        dusum.Satirlar = {d};
+        QCOMPARE(DusumKayit::Kaydet(veri().Ayniyat(), dusum, evet), DusumSonucu::Kaydedildi);
+        satir(u"A7"_s, u"5.3.2026"_s, 1, u"255 ab 01 001"_s, u"1"_s, {});
+        satir(7, u"05.03.2026"_s, 2, d2, {}, u"1"_s);
+        satir(7, u"05.03.2026"_s, 2, d2, u"2"_s, {});
+        satir(2.5, u"04.03.2026"_s, 1, d2, u"1"_s, {});
+        satir(7, u"05.03.2026"_s, 1, d2, u"3"_s, u"1"_s, u"D"_s);
+        satir(7, u"10.01.2026"_s, 1, d2, u"5"_s, {});
+
+        for (const QString& hangi : {u"T"_s, u"D"_s})
+            for (const bool kdvEkle : {false, true}) {
+                const RaporSuzgeci s = RaporSuzgecleri::Acilis(u"2026"_s, hangi);
+                QList<std::pair<Sinif, Sonuc>> hepsi;
+                Hepsi(veri().Ayniyat(), veri().Genel(), s, hangi, kdvEkle, [&](const Sinif& sinif, Sonuc&& r) {
+                    hepsi.append({sinif, std::move(r)});
+                    return true;
+                });
+                QStringList kodlar, beklenen;
+                for (const auto& [sinif, r] : hepsi) {
+                    kodlar << sinif.HesapKod;
+                    ayniMi(r, Hesapla(veri().Ayniyat(), veri().Genel(), s, hangi, kdvEkle, sinif));
+                    QCOMPARE(r.kayitVar, sinif.HesapKod != t2);
+                }
+                for (const Sinif& sinif : Siniflar(veri().Genel(), s, hangi))
+                    beklenen << sinif.HesapKod;
+                QCOMPARE(kodlar, beklenen);
+            }
+
+        // Numbers before texts in FisNo, dates as texts, the lines of one
+        // voucher by Satir, a tie in the order the lines were written.
+        const RaporSuzgeci s = RaporSuzgecleri::Acilis(u"2026"_s, u"D"_s);
+        const Sonuc r = Hesapla(veri().Ayniyat(), veri().Genel(), s, u"D"_s, false, {d2, {}, {}});
+        QStringList fisler;
+        for (const RaporSatiri& satir : r.tablo.satirlar)
+            fisler << satir.hucreler[SolFisNo] + u'/' + satir.hucreler[SagFisNo] + u'/' + satir.hucreler[SolMiktar];
+        QCOMPARE(fisler, (QStringList{"2.5//1,00", "/7/", "7/7/1,00", "7//2,00", "7//5,00", "A7//1,00", "//9,00"}));
+
+        // Esc after the first class stops the walk.
+        int cagri = 0;
+        Hepsi(veri().Ayniyat(), veri().Genel(), s, u"D"_s, false, [&](const Sinif&, Sonuc&&) { return ++cagri > 5; });
+        QCOMPARE(cagri, 1);
+    }
+
+    // The cells' figures agree with Format under both patterns of the
+    // ledger: half up at the second decimal of the fifteen digit form.
+    void miktarBicimiFormatIleAyni()
+    {
+        QList<double> sayilar = {0.0, -0.0, 0.005, 0.004999999, -0.005, -0.001, 0.015, 1.005, 999.995, 999.994999,
+                                 -999.995, 1e6, 999999.995, 12345678.9, 99999999.995, 123456789012.345, 1e15,
+                                 -1e15, 9.99999999999999e20, 1.7e308, 1e-300, 0.1 + 0.2, 1.0 / 3};
+        std::mt19937_64 zar(2026);
+        for (int i = 0; i < 3000; ++i) {
+            const double kesir = double(qint64(zar() % 200000000) - 100000000) / 1000;
+            sayilar << kesir << kesir * 0.14355 << std::ldexp(double(zar() % 1000000), int(zar() % 80) - 40);
+        }
+        for (const double x : sayilar) {
+            QCOMPARE(MiktarBicimi(x), Format(x, u"#####,###.#0"_s));
+            QCOMPARE(MiktarBicimi(x), Format(x, u"##,###,###.#0"_s));
+        }
+        QCOMPARE(MiktarBicimi(999.995), u"1.000,00"_s);
+        QCOMPARE(MiktarBicimi(-0.001), u"-,00"_s);
     }
 };
 

@@ -144,7 +144,7 @@ constexpr int DefterSatirSayisi = 53;
 
 // A whole ledger, every class with lines into one document, as F4 prints
 // them class after class: landscape, the pages numbered on from 1. Answers
-// the number of classes written.
+// the number of classes written; with none no file is written.
 int defterYaz(Veri& veri, const QString& hangi, const RaporSuzgeci& s, const QString& dosya)
 {
     const SabitSatiri sabit = SabitKayit::Getir(veri.Genel()).value_or(SabitSatiri());
@@ -152,15 +152,16 @@ int defterYaz(Veri& veri, const QString& hangi, const RaporSuzgeci& s, const QSt
     const std::unique_ptr<RaporBelgesi> belge =
         RaporBelgeleri::Dosya(dosya, Defter::Kagit(s, DefterSatirSayisi), DefterYaziBoyu, 2, sayfaNo);
     int siniflar = 0;
-    for (const Defter::Sinif& sinif : Defter::Siniflar(veri.Genel(), s, hangi)) {
-        Defter::Sonuc sonuc = Defter::Hesapla(veri.Ayniyat(), veri.Genel(), s, hangi, true, sinif);
-        if (sonuc.tablo.satirlar.isEmpty())
-            continue;
-        sonuc.tablo.ustBilgi = RaporBelgeleri::UstBilgi(sabit, sonuc.tablo, Defter::Etiketler());
-        belge->Ekle(sonuc.tablo);
-        ++siniflar;
-    }
-    belge->Bitir();
+    Defter::Hepsi(veri.Ayniyat(), veri.Genel(), s, hangi, true, [&](const Defter::Sinif&, Defter::Sonuc&& sonuc) {
+        if (!sonuc.tablo.satirlar.isEmpty()) {
+            sonuc.tablo.ustBilgi = RaporBelgeleri::UstBilgi(sabit, sonuc.tablo, Defter::Etiketler());
+            belge->Ekle(sonuc.tablo);
+            ++siniflar;
+        }
+        return true;
+    });
+    if (siniflar > 0)
+        belge->Bitir();
     return siniflar;
 }
 
@@ -190,6 +191,10 @@ int rapor(Veri& veri, const QStringList& argumanlar, const Komutlar::Secenekler&
     s.HesapKod5 = s.HesapKod6 = secenek.hesap;
     const QString dosya = QDir(secenek.cikti).absolutePath();
     const int siniflar = defterYaz(veri, hangi, s, dosya);
+    if (siniflar == 0) {
+        hataYaz(QStringLiteral("Bu tarihler arasında defterde satırı olan sınıf yok; dosya yazılmadı."));
+        return 1;
+    }
     std::printf("Yazıldı: %s (%d sınıf)\n", qPrintable(dosya), siniflar);
     return 0;
 }
@@ -248,8 +253,8 @@ int ornekFormlar(Veri& veri, const QString& ciktiSecenegi)
     for (const char* hangi : {"T", "D"}) {
         const QString h = QString::fromLatin1(hangi);
         const QString dosya = QDir(cikti).filePath(QStringLiteral("defter_%1.pdf").arg(h));
-        defterYaz(veri, h, RaporSuzgecleri::Acilis(yilBasi, h), dosya);
-        yazilanlar << dosya;
+        if (defterYaz(veri, h, RaporSuzgecleri::Acilis(yilBasi, h), dosya) > 0)
+            yazilanlar << dosya;
     }
 
     std::printf("Formlar PDF olarak yazıldı: %s\n", qPrintable(cikti));

@@ -33,6 +33,10 @@ namespace RaporBelgeleri {
 // is printed on the band and goes on counting across tables and documents.
 std::unique_ptr<RaporBelgesi> Kagit(Cikti& cikti, const RaporKagidi& kagit, double yaziBoy, int yon, int& sayfaNo);
 
+// The paper into a PDF file, written a table at a time.
+std::unique_ptr<RaporBelgesi> Pdf(const QString& dosya, const RaporKagidi& kagit, double yaziBoy, int yon,
+                                  int& sayfaNo);
+
 // The finished cells as text for spreadsheets: UTF-8, ';' between cells,
 // the title and the header block above each table.
 std::unique_ptr<RaporBelgesi> Csv(const QString& dosya);

@@ -15,8 +15,10 @@ const QColor baslikRengi(255, 0, 0);
 class KagitBelgesi : public RaporBelgesi
 {
 public:
-    KagitBelgesi(Cikti& cikti, const RaporKagidi& kagit, double yaziBoy, int yon, int& sayfaNo)
-        : m_p(&cikti), m_kagit(kagit), m_yaziBoy(yaziBoy), m_yon(yon), m_sayfaNo(sayfaNo)
+    // akis hands every table's pages to the output as soon as they are
+    // drawn, for an output that takes a document in pieces.
+    KagitBelgesi(Cikti& cikti, const RaporKagidi& kagit, double yaziBoy, int yon, int& sayfaNo, bool akis = false)
+        : m_p(&cikti), m_kagit(kagit), m_yaziBoy(yaziBoy), m_yon(yon), m_sayfaNo(sayfaNo), m_akis(akis)
     {
         Sayfa olcu;
         olcu.yon = yon == 2 ? QPageLayout::Landscape : QPageLayout::Portrait;
@@ -28,11 +30,12 @@ public:
     void Ekle(const RaporTablosu& tablo) override
     {
         // Every table starts a page of its own, numbered on as F4 numbers them.
-        if (m_sayfaAcik) {
-            m_p.NewPage();
+        if (m_tabloVar) {
+            if (!m_akis)
+                m_p.NewPage();
             ++m_sayfaNo;
         }
-        m_sayfaAcik = true;
+        m_tabloVar = true;
         m_p.Orientation = m_yon;
         m_p.FontSize = 14;
         m_p.ForeColor = baslikRengi;
@@ -59,6 +62,8 @@ public:
                 SonrakiSayfa(sayac);
             SatirYaz(satir);
         }
+        if (m_akis)
+            m_p.EndDoc();
     }
 
     void Bitir() override { m_p.EndDoc(); }
@@ -119,8 +124,29 @@ private:
     double m_yaziBoy;
     int m_yon;
     int& m_sayfaNo;
+    bool m_akis;
     QSizeF m_alan;
-    bool m_sayfaAcik = false;
+    bool m_tabloVar = false;
+};
+
+// The paper written to a PDF file, a table at a time.
+class PdfBelgesi : public RaporBelgesi
+{
+public:
+    PdfBelgesi(const QString& dosya, const RaporKagidi& kagit, double yaziBoy, int yon, int& sayfaNo)
+        : m_cikti(dosya), m_kagit(m_cikti, kagit, yaziBoy, yon, sayfaNo, true)
+    {
+    }
+    void Ekle(const RaporTablosu& tablo) override { m_kagit.Ekle(tablo); }
+    void Bitir() override
+    {
+        m_kagit.Bitir();
+        m_cikti.Kapat();
+    }
+
+private:
+    PdfAkisi m_cikti;
+    KagitBelgesi m_kagit;
 };
 
 }
@@ -130,6 +156,12 @@ namespace RaporBelgeleri {
 std::unique_ptr<RaporBelgesi> Kagit(Cikti& cikti, const RaporKagidi& kagit, double yaziBoy, int yon, int& sayfaNo)
 {
     return std::make_unique<KagitBelgesi>(cikti, kagit, yaziBoy, yon, sayfaNo);
+}
+
+std::unique_ptr<RaporBelgesi> Pdf(const QString& dosya, const RaporKagidi& kagit, double yaziBoy, int yon,
+                                  int& sayfaNo)
+{
+    return std::make_unique<PdfBelgesi>(dosya, kagit, yaziBoy, yon, sayfaNo);
 }
 
 QList<KagitSatiri> UstBilgi(const SabitSatiri& sabit, const RaporTablosu& tablo, const QStringList& etiketler)

@@ -18,7 +18,10 @@ public:
     // akis hands every table's pages to the output as soon as they are
     // drawn, for an output that takes a document in pieces.
     KagitBelgesi(Cikti& cikti, const RaporKagidi& kagit, double yaziBoy, int yon, int& sayfaNo, bool akis = false)
-        : m_p(&cikti), m_kagit(kagit), m_yaziBoy(yaziBoy), m_yon(yon), m_sayfaNo(sayfaNo), m_akis(akis)
+        // A size below the readable floor (an empty or mistyped YaziBoy reads
+        // as 0) would put every column on the first.
+        : m_p(&cikti), m_kagit(kagit), m_yaziBoy(qMax(yaziBoy, EnKucukPunto)), m_yon(yon), m_sayfaNo(sayfaNo),
+          m_akis(akis)
     {
         Sayfa olcu;
         olcu.yon = yon == 2 ? QPageLayout::Landscape : QPageLayout::Portrait;

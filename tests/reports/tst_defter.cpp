@@ -62,6 +62,18 @@ class TstDefter : public QObject, protected GeciciVeri
                                   {tarih, fisNo, fcinss, satirNo, kod, miktar, cikan});
     }
 
+    // Writes off line 2 of voucher 10 of 05.01.2020 whole (2 pieces).
+    void dusum(const QString& kod)
+    {
+        DusumEkrani d;
+        d.FisNo = u"1"_s, d.Tarih = u"14.03.2026"_s, d.CalisYil = u"2026"_s, d.CalisAy = u"3"_s;
+        QStringList s(DusumSutun::Sayi);
+        s[DusumSutun::HesapKod] = kod, s[DusumSutun::Miktar] = u"2"_s, s[DusumSutun::Tarih] = u"05.01.2020"_s;
+        s[DusumSutun::FisNo] = u"10"_s, s[DusumSutun::Satir] = u"2"_s;
+        d.Satirlar = {s};
+        QCOMPARE(DusumKayit::Kaydet(veri().Ayniyat(), d, evet), DusumSonucu::Kaydedildi);
+    }
+
     static void ayniMi(const Sonuc& a, const Sonuc& b)
     {
         QCOMPARE(a.kayitVar, b.kayitVar);
@@ -161,13 +173,7 @@ private slots:
         const QString k = u"255 01 01 001"_s;
         fis(u"10"_s, u"05.01.2020"_s, u"G"_s, {{k, u"4"_s, u"100"_s, {}, {}, u"1"_s}, {k, u"2"_s, u"50"_s}});
         // Line 2 written off whole: Cikan 2, FCinss "D".
-        DusumEkrani dusum;
-        dusum.FisNo = u"1"_s, dusum.Tarih = u"14.03.2026"_s, dusum.CalisYil = u"2026"_s, dusum.CalisAy = u"3"_s;
-        QStringList d(DusumSutun::Sayi);
-        d[DusumSutun::HesapKod] = k, d[DusumSutun::Miktar] = u"2"_s, d[DusumSutun::Tarih] = u"05.01.2020"_s;
-        d[DusumSutun::FisNo] = u"10"_s, d[DusumSutun::Satir] = u"2"_s;
-        dusum.Satirlar = {d};
-        QCOMPARE(DusumKayit::Kaydet(veri().Ayniyat(), dusum, evet), DusumSonucu::Kaydedildi);
+        dusum(k);
         // An issue without an entry; then a line without quantities, which
         // writes its left half over the row before it.
         fis(u"11"_s, u"10.02.2026"_s, u"C"_s,
@@ -221,13 +227,7 @@ private slots:
         fis(u"9"_s, u"01.02.2026"_s, u"C"_s, {{t1, {}, u"3"_s, u"2"_s, u"18"_s, u"10"_s, u"3"_s, u"ALİ"_s}});
         fis(u"2"_s, u"02.03.2026"_s, u"G"_s, {{t1, u"5"_s, u"3,3"_s, {}, u"18"_s, u"1"_s}, {t3, u"1"_s, u"7"_s}});
         fis(u"10"_s, u"05.01.2020"_s, u"G"_s, {{d1, u"4"_s, u"100"_s, {}, {}, u"1"_s}, {d1, u"2"_s, u"50"_s}});
-        DusumEkrani dusum;
-        dusum.FisNo = u"1"_s, dusum.Tarih = u"14.03.2026"_s, dusum.CalisYil = u"2026"_s, dusum.CalisAy = u"3"_s;
-        QStringList d(DusumSutun::Sayi);
-        d[DusumSutun::HesapKod] = d1, d[DusumSutun::Miktar] = u"2"_s, d[DusumSutun::Tarih] = u"05.01.2020"_s;
-        d[DusumSutun::FisNo] = u"10"_s, d[DusumSutun::Satir] = u"2"_s;
-        dusum.Satirlar = {d};
-        QCOMPARE(DusumKayit::Kaydet(veri().Ayniyat(), dusum, evet), DusumSonucu::Kaydedildi);
+        dusum(d1);
         satir(u"A7"_s, u"5.3.2026"_s, 1, u"255 ab 01 001"_s, u"1"_s, {});
         satir(7, u"05.03.2026"_s, 2, d2, {}, u"1"_s);
         satir(7, u"05.03.2026"_s, 2, d2, u"2"_s, {});

@@ -113,18 +113,6 @@ private slots:
         QCOMPARE(numaralar(s), (QStringList{"3"}));
     }
 
-    void parcalarMetindekiSiradaBaglanir()
-    {
-        RaporSuzgeci s;
-        s.Tarih = QDate(2026, 1, 1), s.Tarih1 = QDate(2026, 3, 14), s.AmbarNo = u"2"_s, s.Unite = u"3"_s;
-        s.KimeVerildigi = u"ALİ"_s, s.Ozellik = u"MAVİ"_s;
-        QCOMPARE(RaporSuzgecleri::SatirKosulu(s).degerler,
-                 (QVariantList{20260101, 20260314, "2", "3", "ALİ", "MAVİ"}));
-        s.TekMalzeme = u" Kağıt "_s, s.HesapKod5 = u"150 01"_s, s.SonrakiSinif = u"150 01 01 001"_s;
-        QCOMPARE(RaporSuzgecleri::SinifKosulu(s, u"T"_s).degerler,
-                 (QVariantList{"Kağıt", "150 01", "", "150 01 01 001"}));
-    }
-
     void siniflarTarafaVeSuzgeceGoreKodSirasinda()
     {
         veri().Genel().Calistir(u"insert into URUN_K (HesapKod, MalzAdi, Birimi) values "

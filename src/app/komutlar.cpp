@@ -4,15 +4,13 @@
 #include "komutlar.h"
 
 #include "cikti.h"
-#include "defter.h"
-#include "defter_kagidi.h"
 #include "dusum_sayfasi.h"
 #include "fis_sayfasi.h"
 #include "fis_toplam.h"
 #include "istek_sayfasi.h"
 #include "kod_plani_yukle.h"
 #include "ornek_veri.h"
-#include "rapor_belgesi.h"
+#include "rapor_tanimlari.h"
 #include "saat.h"
 #include "sabit_kayit.h"
 #include "tek_deger.h"
@@ -138,33 +136,6 @@ int yazdir(Veri& veri, const QStringList& argumanlar, const Komutlar::Secenekler
     return harfYok ? YaziylaYazilamadi : 0;
 }
 
-// Both ledgers' opening size and page length.
-constexpr double DefterYaziBoyu = 8;
-constexpr int DefterSatirSayisi = 53;
-
-// A whole ledger, every class with lines into one document, as F4 prints
-// them class after class: landscape, the pages numbered on from 1. Answers
-// the number of classes written; with none no file is written.
-int defterYaz(Veri& veri, const QString& hangi, const RaporSuzgeci& s, const QString& dosya)
-{
-    const SabitSatiri sabit = SabitKayit::Getir(veri.Genel()).value_or(SabitSatiri());
-    int sayfaNo = 1;
-    const std::unique_ptr<RaporBelgesi> belge =
-        RaporBelgeleri::Dosya(dosya, Defter::Kagit(s, DefterSatirSayisi), DefterYaziBoyu, 2, sayfaNo);
-    int siniflar = 0;
-    Defter::Hepsi(veri.Ayniyat(), veri.Genel(), s, hangi, true, [&](const Defter::Sinif&, Defter::Sonuc&& sonuc) {
-        if (!sonuc.tablo.satirlar.isEmpty()) {
-            sonuc.tablo.ustBilgi = RaporBelgeleri::UstBilgi(sabit, sonuc.tablo, Defter::Etiketler());
-            belge->Ekle(sonuc.tablo);
-            ++siniflar;
-        }
-        return true;
-    });
-    if (siniflar > 0)
-        belge->Bitir();
-    return siniflar;
-}
-
 QDate tarihOku(const QString& metin)
 {
     return QDate::fromString(metin, QStringLiteral("dd.MM.yyyy"));
@@ -172,15 +143,22 @@ QDate tarihOku(const QString& metin)
 
 int rapor(Veri& veri, const QStringList& argumanlar, const Komutlar::Secenekler& secenek)
 {
+    const RaporTanimi* tanim = RaporTanimlari::Bul(argumanlar.value(1));
     const QString hangi = secenek.hangi.toUpper();
     const QString uzanti = QFileInfo(secenek.cikti).suffix().toLower();
     const QDate baslangic = tarihOku(secenek.baslangic);
     const QDate bitis = tarihOku(secenek.bitis);
-    if (argumanlar.value(1) != QLatin1String("defter") || (hangi != u"T" && hangi != u"D")
+    if (!tanim || hangi.size() > 1 || !tanim->hangiler.contains(hangi) || (hangi.isEmpty() != tanim->hangiler.isEmpty())
         || !QStringList{QStringLiteral("pdf"), QStringLiteral("csv"), QStringLiteral("xlsx")}.contains(uzanti)
         || (!secenek.baslangic.isEmpty() && !baslangic.isValid()) || (!secenek.bitis.isEmpty() && !bitis.isValid())) {
-        hataYaz(QStringLiteral("Kullanım: tasinir rapor defter --veri KLASÖR --hangi T|D [--baslangic gg.aa.yyyy] "
-                               "[--bitis gg.aa.yyyy] [--hesap KOD] --cikti DOSYA.pdf|.csv|.xlsx"));
+        QString kullanim;
+        for (const RaporTanimi& r : RaporTanimlari::Hepsi())
+            kullanim += QStringLiteral("\n  %1%2: %3")
+                            .arg(r.ad, r.hangiler.isEmpty() ? QString() : QStringLiteral(" --hangi ") + QStringList(
+                                 r.hangiler.split(QString(), Qt::SkipEmptyParts)).join(u'|'), r.aciklama);
+        hataYaz(QStringLiteral("Kullanım: tasinir rapor RAPOR --veri KLASÖR [--hangi H] [--baslangic gg.aa.yyyy] "
+                               "[--bitis gg.aa.yyyy] [--hesap KOD] --cikti DOSYA.pdf|.csv|.xlsx\nRaporlar:")
+                + kullanim);
         return 2;
     }
     RaporSuzgeci s = RaporSuzgecleri::Acilis(QString::number(Saat::Bugun().year()), hangi);
@@ -190,12 +168,12 @@ int rapor(Veri& veri, const QStringList& argumanlar, const Komutlar::Secenekler&
         s.Tarih1 = bitis;
     s.HesapKod5 = s.HesapKod6 = secenek.hesap;
     const QString dosya = QDir(secenek.cikti).absolutePath();
-    const int siniflar = defterYaz(veri, hangi, s, dosya);
-    if (siniflar == 0) {
-        hataYaz(QStringLiteral("Bu tarihler arasında defterde satırı olan sınıf yok; dosya yazılmadı."));
+    const int tablolar = RaporTanimlari::Yaz(*tanim, veri, s, hangi, dosya);
+    if (tablolar == 0) {
+        hataYaz(QStringLiteral("Bu tarihler arasında raporda satır yok; dosya yazılmadı."));
         return 1;
     }
-    std::printf("Yazıldı: %s (%d sınıf)\n", qPrintable(dosya), siniflar);
+    std::printf("Yazıldı: %s (%d tablo)\n", qPrintable(dosya), tablolar);
     return 0;
 }
 
@@ -253,7 +231,9 @@ int ornekFormlar(Veri& veri, const QString& ciktiSecenegi)
     for (const char* hangi : {"T", "D"}) {
         const QString h = QString::fromLatin1(hangi);
         const QString dosya = QDir(cikti).filePath(QStringLiteral("defter_%1.pdf").arg(h));
-        if (defterYaz(veri, h, RaporSuzgecleri::Acilis(yilBasi, h), dosya) > 0)
+        if (RaporTanimlari::Yaz(*RaporTanimlari::Bul(QStringLiteral("defter")), veri, RaporSuzgecleri::Acilis(yilBasi, h),
+                                h, dosya)
+            > 0)
             yazilanlar << dosya;
     }
 

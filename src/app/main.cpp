@@ -85,7 +85,7 @@ int main(int argc, char* argv[])
                                    QStringLiteral("yazdir: fis (varsayılan), zimmet ya da istek."),
                                    QStringLiteral("tür"));
     const QCommandLineOption hangi(QStringLiteral("hangi"),
-                                   QStringLiteral("rapor defter: T tüketim malzemeleri, D dayanıklı taşınırlar."),
+                                   QStringLiteral("rapor: T tüketim malzemeleri, D dayanıklı taşınırlar."),
                                    QStringLiteral("T|D"));
     const QCommandLineOption baslangic(QStringLiteral("baslangic"),
                                        QStringLiteral("rapor: başlama tarihi (varsayılan: T için çalışılan yılın "
@@ -103,8 +103,8 @@ int main(int argc, char* argv[])
                                                 "(kod<TAB>ad) yükler.\n"
                                                 "yazdir fis: kayıtlı bir fişin sayfasını PDF olarak yazar.\n"
                                                 "yazdir dusum: kayıtlı bir düşüm tutanağını PDF olarak yazar.\n"
-                                                "rapor defter: tüketim (T) ya da dayanıklı (D) defterini "
-                                                "PDF, CSV ya da XLSX olarak yazar.\n"
+                                                "rapor RAPOR: bir raporu PDF, CSV ya da XLSX olarak yazar "
+                                                "(yalnız \"rapor\" raporları listeler).\n"
                                                 "Komut verilmezse program açılır."),
                                  QStringLiteral("[komut]"));
     parser.process(app);

@@ -6,6 +6,7 @@
 // consumables ledger class by class as well, which must give the same.
 
 #include "defter.h"
+#include "olcum.h"
 #include "ornek_veri.h"
 #include "saat.h"
 #include "veritabani.h"
@@ -26,36 +27,6 @@
 namespace {
 
 bool ozetli = false;
-
-double islemciSaniye()
-{
-    timespec t;
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &t);
-    return double(t.tv_sec) + double(t.tv_nsec) / 1e9;
-}
-
-long enCokBellekMb()
-{
-    rusage r;
-    getrusage(RUSAGE_SELF, &r);
-    return r.ru_maxrss / 1024;
-}
-
-class Olcum
-{
-public:
-    Olcum() : m_islemci(islemciSaniye()) { m_saat.start(); }
-    void Yaz(const char* ad, const QString& ek)
-    {
-        std::printf("%-44s %6lld ms wall %6.0f ms cpu  max RSS %4ld MB  %s\n", ad, qlonglong(m_saat.elapsed()),
-                    (islemciSaniye() - m_islemci) * 1000, enCokBellekMb(), qPrintable(ek));
-        std::fflush(stdout);
-    }
-
-private:
-    QElapsedTimer m_saat;
-    double m_islemci;
-};
 
 // FNV-1a over every cell, for comparing two ways of computing a ledger.
 struct Ozet

@@ -163,7 +163,6 @@ Liste::Liste(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s, cons
 }
 
 Liste::~Liste() = default;
-Liste::Liste(Liste&&) noexcept = default;
 
 qsizetype Liste::Sayi() const
 {
@@ -231,7 +230,6 @@ Liste2::Liste2(Veritabani& ayniyat, const QList<Birim>& birimler)
 }
 
 Liste2::~Liste2() = default;
-Liste2::Liste2(Liste2&&) noexcept = default;
 
 qsizetype Liste2::Sayi() const
 {

@@ -51,7 +51,6 @@ public:
     Liste(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s, const QString& hangi,
           const QList<Birim>& birimler);
     ~Liste();
-    Liste(Liste&&) noexcept;
 
     qsizetype Sayi() const;
     const Birim& Birimi(qsizetype i) const;
@@ -70,7 +69,6 @@ class Liste2
 public:
     Liste2(Veritabani& ayniyat, const QList<Birim>& birimler);
     ~Liste2();
-    Liste2(Liste2&&) noexcept;
 
     qsizetype Sayi() const;
     const Birim& Birimi(qsizetype i) const;

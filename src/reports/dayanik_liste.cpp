@@ -83,17 +83,20 @@ std::unique_ptr<Okunan> oku(Veritabani& ayniyat, const QList<Birim>& birimler, c
     if (birimler.isEmpty())
         return o;
 
-    QString sql = QStringLiteral("Select ") + fisSutunlari + QStringLiteral(" from FIS Where ") + kosul.sql
-                  + (kosul.sql.isEmpty() ? QString() : QStringLiteral(" and ")) + RaporSuzgecleri::SinifAyrimi(hangi);
-    QVariantList degerler = kosul.degerler;
+    // The cheap tests first: most lines of the table belong to no unit, and
+    // half of the rest to the other side.
+    QString sql = QStringLiteral("Select ") + fisSutunlari + QStringLiteral(" from FIS Where ");
+    QVariantList degerler;
     if (birimler.size() <= enCokBagli) {
         QStringList yerler;
         for (const Birim& b : birimler) {
             yerler << QStringLiteral("?");
             degerler << b.UniteKod;
         }
-        sql += QStringLiteral(" and Unite in (") + yerler.join(QStringLiteral(", ")) + QStringLiteral(")");
+        sql += QStringLiteral("Unite in (") + yerler.join(QStringLiteral(", ")) + QStringLiteral(") and ");
     }
+    sql += RaporSuzgecleri::SinifAyrimi(hangi) + (kosul.sql.isEmpty() ? QString() : QStringLiteral(" and ")) + kosul.sql;
+    degerler += kosul.degerler;
     sql += QStringLiteral(" order by Unite, FisNo, Tarih, Satir, rowid");
 
     // Unite compares without regard to case: its equal values are one run.

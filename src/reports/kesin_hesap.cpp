@@ -5,7 +5,7 @@
 
 using namespace YilDevri;
 
-namespace KesinHesap {
+namespace KesinHesapRaporu {
 
 RaporTablosu Toplu(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s, const QString& anaHesap,
                    const QString& calisYil)

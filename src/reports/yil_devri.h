@@ -44,7 +44,6 @@ struct Satir
     Yil yil;
     bool dusum;
     std::uint32_t birimi;  // into Okunan::birimler
-    qint64 rowid;
 };
 
 // The lines of every class, each class's in table order.

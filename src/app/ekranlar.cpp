@@ -11,6 +11,7 @@
 #include "sabit.h"
 #include "sinif_tani.h"
 #include "unite_tani.h"
+#include "yil_devri_ekrani.h"
 
 #include <QPointer>
 
@@ -72,6 +73,11 @@ void EkranlariTanimla(Menu& menu)
                           d.HangiYaz(kip.value(QStringLiteral("Hangi")).toString());
                       }));
     menu.EkranTanimla(QStringLiteral("Dayanak2"), tekOrnek<Dayanak2>());
+    // Opened without Hangi; each opening lists afresh, as Form_Activate did.
+    menu.EkranTanimla(QStringLiteral("HesapCetveli"),
+                      tekOrnek<HesapCetveli>({}, [](HesapCetveli& h, const QVariantMap&) { h.Toplu(); }));
+    menu.EkranTanimla(QStringLiteral("KesinHesap"),
+                      tekOrnek<KesinHesap>({}, [](KesinHesap& k, const QVariantMap&) { k.Toplu(); }));
     menu.EkranTanimla(QStringLiteral("Dusum"), tekOrnek<Dusum>([dusum](Dusum& d) { *dusum = &d; }));
     menu.EkranTanimla(QStringLiteral("HESAP_K"), tekOrnek<HESAP_K>());
     menu.EkranTanimla(QStringLiteral("Malzeme_L"), tekOrnek<Malzeme_L>());

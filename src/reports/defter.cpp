@@ -1,6 +1,7 @@
 #include "defter.h"
 
 #include "bicim.h"
+#include "fis_degeri.h"
 #include "fis_kayit.h"
 #include "fis_toplam.h"
 #include "kayit.h"
@@ -46,38 +47,6 @@ constexpr std::uint32_t yok = UINT32_MAX;
 // The statement is used on this thread only.
 using Deger = sqlite3_value*;
 
-std::string_view baytlar(Deger v)
-{
-    const auto* p = static_cast<const char*>(sqlite3_value_type(v) == SQLITE_BLOB ? sqlite3_value_blob(v)
-                                                                                   : sqlite3_value_text(v));
-    return {p ? p : "", std::size_t(sqlite3_value_bytes(v))};
-}
-
-// Val(VirgulNokta(value as text)) on the engine's value, without the text:
-// a whole number and a real are what their text reads back as.
-double sayi(Deger v)
-{
-    switch (sqlite3_value_type(v)) {
-    case SQLITE_NULL:
-        return 0;
-    case SQLITE_INTEGER:
-        return double(sqlite3_value_int64(v));
-    case SQLITE_FLOAT: {
-        // "inf" reads as 0.
-        const double d = sqlite3_value_double(v);
-        return std::isfinite(d) ? d : 0.0;
-    }
-    default: {
-        const std::string_view b = baytlar(v);
-        if (b.find(',') == std::string_view::npos)
-            return ValOku(b.data(), b.data() + b.size());
-        std::string metin(b);
-        std::replace(metin.begin(), metin.end(), ',', '.');
-        return ValOku(metin.data(), metin.data() + metin.size());
-    }
-    }
-}
-
 struct BaytOzeti
 {
     using is_transparent = void;
@@ -113,7 +82,7 @@ public:
         }
         default: {
             BaytHaritasi& harita = m_metinler[tur == SQLITE_BLOB];
-            const std::string_view b = baytlar(v);
+            const std::string_view b = DegerBaytlari(v);
             auto bulunan = harita.find(b);
             if (bulunan == harita.end())
                 bulunan = harita.emplace(std::string(b), yok).first;
@@ -128,7 +97,7 @@ public:
             else if (tur == SQLITE_FLOAT)
                 d.kesir = sqlite3_value_double(v);
             else if (tur != SQLITE_NULL)
-                d.bayt = baytlar(v);
+                d.bayt = DegerBaytlari(v);
             m_degerler.push_back(std::move(d));
             m_yazilar.emplace_back();
             m_yazildi.push_back(false);
@@ -191,7 +160,7 @@ private:
             return std::memcmp(&x, &d.kesir, sizeof x) == 0;
         }
         default:
-            return baytlar(v) == d.bayt;
+            return DegerBaytlari(v) == d.bayt;
         }
     }
 
@@ -303,19 +272,17 @@ public:
     FisSatiri Oku(sqlite3_stmt* q)
     {
         FisSatiri s{};
-        s.miktar = sayi(sqlite3_column_value(q, sMiktar));
-        s.cikan = sayi(sqlite3_column_value(q, sCikan));
-        s.fiyat = sayi(sqlite3_column_value(q, sBirimFiyat));
-        s.kdv = m_kdvEkle ? sayi(sqlite3_column_value(q, sKDV)) : 0;
+        s.miktar = DegerSayisi(sqlite3_column_value(q, sMiktar));
+        s.cikan = DegerSayisi(sqlite3_column_value(q, sCikan));
+        s.fiyat = DegerSayisi(sqlite3_column_value(q, sBirimFiyat));
+        s.kdv = m_kdvEkle ? DegerSayisi(sqlite3_column_value(q, sKDV)) : 0;
         s.tarih = tarih.Al(sqlite3_column_value(q, sTarih));
         s.fisNo = fisNo.Al(sqlite3_column_value(q, sFisNo));
         s.islem = islem.Al(sqlite3_column_value(q, sIslemTur));
         s.unite = unite.Al(sqlite3_column_value(q, sUnite));
         s.kime = kime.Al(sqlite3_column_value(q, sKime));
         s.ozellik = ozellik.Al(sqlite3_column_value(q, sOzellik));
-        const Deger cins = sqlite3_column_value(q, sFCinss);
-        const int tur = sqlite3_value_type(cins);
-        s.dusum = (tur == SQLITE_TEXT || tur == SQLITE_BLOB) && baytlar(cins) == "D";
+        s.dusum = DusumSatiri(sqlite3_column_value(q, sFCinss));
         return s;
     }
 
@@ -558,7 +525,7 @@ void Hepsi(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s, const 
             const Deger hesapKod = sqlite3_column_value(c, sHesapKod);
             if (sqlite3_value_type(hesapKod) != SQLITE_TEXT)
                 continue;
-            const std::string_view kod = baytlar(hesapKod);
+            const std::string_view kod = DegerBaytlari(hesapKod);
             if (ilk || kod != sonKod) {
                 ilk = false;
                 sonKod.assign(kod);

@@ -47,7 +47,7 @@ public:
         m_p.ForeColor = Qt::black;
         for (const KagitSatiri& satir : tablo.ustBilgi)
             SatirYaz(satir);
-        SayfaBasi();
+        SayfaBasi(true);
 
         int sayac = m_kagit.ilkSayac;
         int sira = 0;
@@ -72,10 +72,19 @@ public:
     void Bitir() override { m_p.EndDoc(); }
 
 private:
-    void SayfaBasi()
+    void SayfaBasi(bool ilk)
     {
         if (m_kagit.bant)
             SatirYaz(m_kagit.bant(m_sayfaNo));
+        const QList<BasSatiri>& bas = ilk || m_kagit.devamBas.isEmpty() ? m_kagit.ilkBas : m_kagit.devamBas;
+        if (!bas.isEmpty()) {
+            for (const BasSatiri& b : bas) {
+                m_p.FontBold = b.kalin;
+                SatirYaz(b.satir);
+            }
+            m_p.FontBold = false;
+            return;
+        }
         for (const KagitSatiri& satir : m_kagit.ayiricilar)
             SatirYaz(satir);
         m_p.FontBold = true;
@@ -87,7 +96,7 @@ private:
     {
         m_p.NewPage();
         ++m_sayfaNo;
-        SayfaBasi();
+        SayfaBasi(false);
         sayac = m_kagit.devam;
     }
 

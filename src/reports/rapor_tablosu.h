@@ -59,6 +59,13 @@ struct KagitHucresi
     int genislik = 0;
 };
 
+// A line of a page's head and whether it prints in bold.
+struct BasSatiri
+{
+    KagitSatiri satir;
+    bool kalin = false;
+};
+
 // The paper of a report: what YaziciT prints around the list's rows, with
 // the line counter of its screen.
 struct RaporKagidi
@@ -75,6 +82,11 @@ struct RaporKagidi
     // reports that recount the Sıra column.
     std::function<std::optional<KagitSatiri>(const RaporSatiri& satir, int& sira)> satir;
     QList<KagitSatiri> kapanis;  // the closing block (signatures)
+    // The head of a page as whole lines, in place of ayiricilar and
+    // basliklar, where it is more than one heading line: that of the first
+    // page of a table, and that of the pages after it (empty: the first's).
+    QList<BasSatiri> ilkBas;
+    QList<BasSatiri> devamBas;
 };
 
 struct RaporTablosu

@@ -4,8 +4,13 @@
 #include "dayanik_liste_kagidi.h"
 #include "defter.h"
 #include "defter_kagidi.h"
+#include "hesap_cetveli.h"
+#include "kesin_hesap.h"
 #include "rapor_belgesi.h"
+#include "saat.h"
 #include "veri.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -67,6 +72,34 @@ RaporTanimi dayanikListe(const QString& hangi)
     return r;
 }
 
+// The whole table as one; a table without a line of any class writes no
+// file.
+void satirliTablo(RaporTablosu& t, const SabitSatiri& sabit,
+                  QList<KagitSatiri> (*ustBilgi)(const SabitSatiri&, const RaporTablosu&),
+                  const std::function<bool(RaporTablosu&&)>& her)
+{
+    if (!std::any_of(t.satirlar.cbegin(), t.satirlar.cend(),
+                     [](const RaporSatiri& r) { return r.tur == SatirTuru::Kayit; }))
+        return;
+    t.ustBilgi = ustBilgi(sabit, t);
+    her(std::move(t));
+}
+
+// --hesap names the main account (150, 253, ...), as a click on T2 does.
+RaporTanimi hesapCetveli()
+{
+    RaporTanimi r;
+    r.ad = QStringLiteral("hesap-cetveli");
+    r.aciklama = QStringLiteral("taşınır hesap cetveli (TMY-15), --hesap ana hesap");
+    r.kagit = [](const RaporSuzgeci&, const SabitSatiri& sabit) { return HesapCetveliRaporu::Kagit(sabit); };
+    r.yuru = [](Veri& veri, const RaporSuzgeci& s, const QString&, const SabitSatiri& sabit,
+                const std::function<bool(RaporTablosu&&)>& her) {
+        RaporTablosu t = HesapCetveliRaporu::Toplu(veri.Ayniyat(), veri.Genel(), s, s.HesapKod5);
+        satirliTablo(t, sabit, HesapCetveliRaporu::UstBilgi, her);
+    };
+    return r;
+}
+
 // The second durable goods list of every unit, of all dates.
 RaporTanimi dayanikListe2()
 {
@@ -81,12 +114,33 @@ RaporTanimi dayanikListe2()
     return r;
 }
 
+// The working year is that of the end date.
+RaporTanimi kesinHesap()
+{
+    RaporTanimi r;
+    r.ad = QStringLiteral("kesin-hesap");
+    r.aciklama = QStringLiteral("kesin hesap icmal cetveli (TMY-17), --hesap ana hesap");
+    r.kagit = [](const RaporSuzgeci&, const SabitSatiri&) { return KesinHesapRaporu::Kagit(); };
+    r.yuru = [](Veri& veri, const RaporSuzgeci& s, const QString&, const SabitSatiri& sabit,
+                const std::function<bool(RaporTablosu&&)>& her) {
+        const QDate yil = s.Tarih1.isValid() ? s.Tarih1 : Saat::Bugun();
+        RaporTablosu t =
+            KesinHesapRaporu::Toplu(veri.Ayniyat(), veri.Genel(), s, s.HesapKod5, yil.toString(QStringLiteral("yyyy")));
+        satirliTablo(t, sabit, KesinHesapRaporu::UstBilgi, her);
+    };
+    return r;
+}
+
 }
 
 const QList<RaporTanimi>& RaporTanimlari::Hepsi()
 {
-    static const QList<RaporTanimi> raporlar = {defter(), dayanikListe(QStringLiteral("D")),
-                                                 dayanikListe(QStringLiteral("T")), dayanikListe2()};
+    static const QList<RaporTanimi> raporlar = {defter(),
+                                                 dayanikListe(QStringLiteral("D")),
+                                                 dayanikListe(QStringLiteral("T")),
+                                                 dayanikListe2(),
+                                                 hesapCetveli(),
+                                                 kesinHesap()};
     return raporlar;
 }
 

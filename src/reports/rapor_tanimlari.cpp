@@ -4,6 +4,7 @@
 #include "defter_kagidi.h"
 #include "rapor_belgesi.h"
 #include "veri.h"
+#include "yil_sonu_denetimi.h"
 
 namespace {
 
@@ -29,11 +30,28 @@ RaporTanimi defter()
     return r;
 }
 
+// The checks of the year the period starts in: that of --baslangic, else
+// the working year the command line opens with.
+RaporTanimi yilSonuDenetimi()
+{
+    RaporTanimi r;
+    r.ad = QStringLiteral("yil-sonu-denetimi");
+    r.aciklama = QStringLiteral("yıl sonu denetimi: başlangıç tarihinin yılının kayıtları");
+    r.yon = 1;
+    r.kagit = [](const RaporSuzgeci&, const SabitSatiri&) { return YilSonuDenetimi::Kagit(); };
+    r.yuru = [](Veri& veri, const RaporSuzgeci& s, const QString&, const SabitSatiri&,
+                const std::function<bool(RaporTablosu&&)>& her) {
+        const QString yil = QString::number(s.Tarih.year());
+        her(YilSonuDenetimi::Tablo(YilSonuDenetimi::Denetle(veri.Ayniyat(), veri.Genel(), yil), yil));
+    };
+    return r;
+}
+
 }
 
 const QList<RaporTanimi>& RaporTanimlari::Hepsi()
 {
-    static const QList<RaporTanimi> raporlar = {defter()};
+    static const QList<RaporTanimi> raporlar = {defter(), yilSonuDenetimi()};
     return raporlar;
 }
 

@@ -467,7 +467,7 @@ private:
             if (!hata.isEmpty())
                 m_bulgular[YaziylaTutar] << Bulgu{YaziylaTutar, cinsler[cins], QString::number(anahtar >> 15),
                                                   bas->second.tarihler.first(), {}, {}, {},
-                                                  QStringLiteral("Tutar %1: %2").arg(tutar, hata)};
+                                                  QStringLiteral("%1: %2").arg(tutar, hata)};
         }
         fisSirasi(m_bulgular[YaziylaTutar]);
     }
@@ -529,8 +529,8 @@ RaporKagidi Kagit()
     k.ilkSayac = 8;
     k.sinir = 46;
     k.devam = 5;
-    k.ayiricilar = {{{1, QString(106, u'-')}}};
-    static const int tablar[] = {1, 7, 15, 27, 33, 48, 70};
+    k.ayiricilar = {{{1, QString(180, u'-')}}};
+    static const int tablar[] = {1, 6, 14, 26, 38, 54, 82};
     for (int i = 0; i < int(std::size(tablar)); ++i)
         k.basliklar << TabMetin{tablar[i], sutunlar().at(i).baslik};
     k.satir = [](const RaporSatiri& satir, int&) -> std::optional<KagitSatiri> {

@@ -102,7 +102,7 @@ QString tarihMetni(qint64 gun)
 
 // The columns read from FIS, in this order.
 enum Sutun : int {
-    sRowid, sTarih, sYil, sGun, sFisNo, sFCins, sFCinss, sSatir, sHesapKod, sSicilNo, sMiktar, sCikan,
+    sRowid, sTarih, sYil, sGun, sFisNo, sFCins, sFCinss, sSatir, sHesapKod, sSinif, sSicilNo, sMiktar, sCikan,
     sBirimFiyat, sValMiktar, sValCikan, sKabulSayi, sKabulYil, sKabulTarih
 };
 
@@ -138,6 +138,8 @@ public:
         siciller();
         dusumler();
         tutarlar();
+        for (int d = SicilNo; d < DenetimSayisi; ++d)
+            fisSirasi(m_bulgular[d]);
         QList<Bulgu> hepsi;
         for (QList<Bulgu>& b : m_bulgular)
             hepsi += std::move(b);
@@ -190,9 +192,10 @@ private:
         SatirOkuyucu q(m_ayniyat, QStringLiteral("Select FisNo, FCins, Tarih, Mid(Tarih,7,4) from FIS_B"));
         while (q.Sonraki()) {
             sqlite3_stmt* c = q.Komut();
+            const bool sayi = sqlite3_column_type(c, 0) == SQLITE_INTEGER;
             const int cins = cinsNo(metin(c, 1));
             const qint64 no = sqlite3_column_int64(c, 0);
-            if (cins < 0 || sqlite3_column_type(c, 0) != SQLITE_INTEGER || no <= 0 || no >= enBuyukNo)
+            if (cins < 0 || !sayi || no <= 0 || no >= enBuyukNo)
                 continue;
             const int yil = yilSayisi(metin(c, 3));
             m_basliklar[fisAnahtari(cins, no, yil)].tarihler << yazi(metin(c, 2));
@@ -228,15 +231,14 @@ private:
         }
     }
 
-    std::uint32_t sinifNo(std::string_view kod)
+    // The class of a line by its code as the column compares it (NOCASE:
+    // lower() folds the same ASCII letters); the first spelling is shown.
+    std::uint32_t sinifNo(sqlite3_stmt* q)
     {
-        m_anahtar.assign(kod);
-        for (char& ch : m_anahtar)
-            if (ch >= 'A' && ch <= 'Z')
-                ch = char(ch + 32);
+        m_anahtar.assign(metin(q, sSinif));
         const auto [yer, yeni] = m_siniflar.try_emplace(m_anahtar, std::uint32_t(m_sinifKodlari.size()));
         if (yeni)
-            m_sinifKodlari.push_back(yazi(kod));
+            m_sinifKodlari.push_back(yazi(metin(q, sHesapKod)));
         return yer->second;
     }
 
@@ -245,7 +247,7 @@ private:
     {
         SatirOkuyucu q(m_ayniyat,
                        QStringLiteral("Select rowid, Tarih, Mid(Tarih,7,4), TarihSayi(Tarih), FisNo, FCins, FCinss, "
-                                      "Satir, HesapKod, SicilNo, Miktar, Cikan, BirimFiyat, val(Miktar), val(Cikan), "
+                                      "Satir, HesapKod, lower(HesapKod), SicilNo, Miktar, Cikan, BirimFiyat, val(Miktar), val(Cikan), "
                                       "KabulSayi, Mid(KabulTarih,7,4), KabulTarih from FIS"));
         static const QString alanlar[] = {QStringLiteral("Miktar"), QStringLiteral("Çıkan"),
                                           QStringLiteral("BirimFiyat")};
@@ -254,14 +256,14 @@ private:
             const std::string_view yilMetni = metin(c, sYil);
             const bool buYil = yilMetni == m_yil;
             const int cins = cinsNo(metin(c, sFCins));
+            const bool sayi = sqlite3_column_type(c, sFisNo) == SQLITE_INTEGER;
             const qint64 no = sqlite3_column_int64(c, sFisNo);
-            const bool fisVar =
-                cins >= 0 && sqlite3_column_type(c, sFisNo) == SQLITE_INTEGER && no > 0 && no < enBuyukNo;
+            const bool fisVar = cins >= 0 && sayi && no > 0 && no < enBuyukNo;
             const std::string_view kod = metin(c, sHesapKod);
 
             // val(NULL) is NULL, which counts as 0 here.
             if (!kod.empty() && sqlite3_column_type(c, sGun) != SQLITE_NULL && sqlite3_column_int64(c, sGun) <= m_yilSonu)
-                m_hareketler.push_back({sinifNo(kod), sqlite3_column_int64(c, sGun),
+                m_hareketler.push_back({sinifNo(c), sqlite3_column_int64(c, sGun),
                                         sqlite3_column_double(c, sValMiktar) - sqlite3_column_double(c, sValCikan)});
 
             if (buYil && cins == 0 && !kod.empty() && kod.substr(0, 3) != "150") {
@@ -424,7 +426,6 @@ private:
                 b.aciklama += QStringLiteral("; ayrıca ") + diger.join(QStringLiteral(", "));
             m_bulgular[SicilNo] << b;
         }
-        fisSirasi(m_bulgular[SicilNo]);
     }
 
     void dusumler()
@@ -433,9 +434,6 @@ private:
             if (d.buYil && !d.isaretli)
                 m_bulgular[DusumIsareti] << Bulgu{DusumIsareti, dusumCinsi, d.FisNo, d.Tarih, {}, {}, {},
                                                   QStringLiteral("İşaretlediği satır yok")};
-        fisSirasi(m_bulgular[YilDisiSatir]);
-        fisSirasi(m_bulgular[OkunmayanSayi]);
-        fisSirasi(m_bulgular[DusumIsareti]);
     }
 
     // The amount total of each voucher of the year as its print screen
@@ -469,7 +467,6 @@ private:
                                                   bas->second.tarihler.first(), {}, {}, {},
                                                   QStringLiteral("%1: %2").arg(tutar, hata)};
         }
-        fisSirasi(m_bulgular[YaziylaTutar]);
     }
 
     Veritabani& m_ayniyat;

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -501,7 +502,7 @@ RaporTablosu Tablo(const QList<Bulgu>& bulgular, const QString& yil)
         QStringLiteral("Fiş numaralarında boşluk ya da tekrar"),
         QStringLiteral("Sicil No'su olmayan ya da iki satırda kullanılan dayanıklı giriş satırları"),
         QStringLiteral("Fişinin yılı dışında tarihli satırlar"),
-        QStringLiteral("Val'in eksik okuduğu miktar ve fiyatlar"),
+        QStringLiteral("Düz sayı olarak yazılmamış miktar ve fiyatlar"),
         QStringLiteral("Satırı ya da düşüm kaydı olmayan düşüm işaretleri"),
         QStringLiteral("Tutarı yazıyla yazılamayan fişler"),
     };

@@ -17,7 +17,7 @@ enum Denetim : int {
     FisNumarasi,    // gaps and repeats in the numbers of a kind
     SicilNo,        // durable entry lines without or with a shared register number
     YilDisiSatir,   // a line dated in another year than its voucher's head
-    OkunmayanSayi,  // a quantity or price that Val reads short
+    OkunmayanSayi,  // a quantity or price that is no plain number: Val may read it otherwise than meant
     DusumIsareti,   // a write-off without marked lines, a mark without its write-off
     YaziylaTutar,   // a voucher total that the wording cannot spell
     DenetimSayisi

@@ -113,7 +113,7 @@ private slots:
                                      {u"G"_s, u"5"_s, u"01.01.2026"_s, u"2"_s, k, u"Fişin başlığı 31.12.2025 tarihli"_s}}));
     }
 
-    void valinEksikOkuduguSayilar()
+    void duzSayiOlmayanMiktarVeFiyat()
     {
         satir({.tarih = u"01.01.2026"_s, .miktar = u"12,5"_s, .cikan = u"1O"_s, .fiyat = u"1 000"_s});
         satir({.tarih = u"01.01.2026"_s, .satir = 2, .miktar = u" 12.5 "_s, .cikan = u"-3"_s, .fiyat = u"7."_s});

@@ -248,8 +248,8 @@ private:
     {
         SatirOkuyucu q(m_ayniyat,
                        QStringLiteral("Select rowid, Tarih, Mid(Tarih,7,4), TarihSayi(Tarih), FisNo, FCins, FCinss, "
-                                      "Satir, HesapKod, lower(HesapKod), SicilNo, Miktar, Cikan, BirimFiyat, val(Miktar), val(Cikan), "
-                                      "KabulSayi, Mid(KabulTarih,7,4), KabulTarih from FIS"));
+                                      "Satir, HesapKod, lower(HesapKod), SicilNo, Miktar, Cikan, BirimFiyat, "
+                                      "val(Miktar), val(Cikan), KabulSayi, Mid(KabulTarih,7,4), KabulTarih from FIS"));
         static const QString alanlar[] = {QStringLiteral("Miktar"), QStringLiteral("Çıkan"),
                                           QStringLiteral("BirimFiyat")};
         while (q.Sonraki()) {
@@ -263,7 +263,8 @@ private:
             const std::string_view kod = metin(c, sHesapKod);
 
             // val(NULL) is NULL, which counts as 0 here.
-            if (!kod.empty() && sqlite3_column_type(c, sGun) != SQLITE_NULL && sqlite3_column_int64(c, sGun) <= m_yilSonu)
+            if (!kod.empty() && sqlite3_column_type(c, sGun) != SQLITE_NULL
+                && sqlite3_column_int64(c, sGun) <= m_yilSonu)
                 m_hareketler.push_back({sinifNo(c), sqlite3_column_int64(c, sGun),
                                         sqlite3_column_double(c, sValMiktar) - sqlite3_column_double(c, sValCikan)});
 
@@ -513,8 +514,10 @@ RaporTablosu Tablo(const QList<Bulgu>& bulgular, const QString& yil)
         QList<RaporSatiri> satirlar;
         for (const Bulgu& b : bulgular)
             if (b.denetim == d)
-                satirlar.append({SatirTuru::Kayit, {b.fis, b.FisNo, b.Tarih, b.Satir, b.HesapKod, b.MalzAdi, b.aciklama}});
-        const QString sonuc = satirlar.isEmpty() ? QStringLiteral("yok") : QStringLiteral("%1 bulgu").arg(satirlar.size());
+                satirlar.append(
+                    {SatirTuru::Kayit, {b.fis, b.FisNo, b.Tarih, b.Satir, b.HesapKod, b.MalzAdi, b.aciklama}});
+        const QString sonuc =
+            satirlar.isEmpty() ? QStringLiteral("yok") : QStringLiteral("%1 bulgu").arg(satirlar.size());
         t.satirlar.append({SatirTuru::Baslik, {QStringLiteral("%1. %2: %3").arg(d + 1).arg(adlar[d], sonuc)}});
         t.satirlar += satirlar;
     }

@@ -107,10 +107,10 @@ private slots:
         satir({.tarih = u"01.01.2026"_s, .no = 6});
         satir({.tarih = u"31.12.2025"_s, .no = 6, .satir = 2});
         satir({.tarih = u"01.01.2026"_s, .no = 9});
-        const QString k = u"255 01 01 001"_s;
+        const QString k = u"255 01 01 001"_s, b = u"Fişin başlığı %1 tarihli"_s;
         QCOMPARE(bulgular(YilDisiSatir),
-                 (QList<QStringList>{{u"G"_s, u"6"_s, u"31.12.2025"_s, u"2"_s, k, u"Fişin başlığı 01.01.2026 tarihli"_s},
-                                     {u"G"_s, u"5"_s, u"01.01.2026"_s, u"2"_s, k, u"Fişin başlığı 31.12.2025 tarihli"_s}}));
+                 (QList<QStringList>{{u"G"_s, u"6"_s, u"31.12.2025"_s, u"2"_s, k, b.arg(u"01.01.2026"_s)},
+                                     {u"G"_s, u"5"_s, u"01.01.2026"_s, u"2"_s, k, b.arg(u"31.12.2025"_s)}}));
     }
 
     void duzSayiOlmayanMiktarVeFiyat()
@@ -119,9 +119,10 @@ private slots:
         satir({.tarih = u"01.01.2026"_s, .satir = 2, .miktar = u" 12.5 "_s, .cikan = u"-3"_s, .fiyat = u"7."_s});
         satir({.tarih = u"31.12.2025"_s, .miktar = u"1,5"_s});
         const QStringList yer = {u"G"_s, u"1"_s, u"01.01.2026"_s, u"1"_s, u"255 01 01 001"_s};
-        QCOMPARE(bulgular(OkunmayanSayi), (QList<QStringList>{yer + QStringList{u"Miktar \"12,5\": 12 okunur"_s},
-                                                              yer + QStringList{u"Çıkan \"1O\": 1 okunur"_s},
-                                                              yer + QStringList{u"BirimFiyat \"1 000\": 1000 okunur"_s}}));
+        QCOMPARE(bulgular(OkunmayanSayi),
+                 (QList<QStringList>{yer + QStringList{u"Miktar \"12,5\": 12 okunur"_s},
+                                     yer + QStringList{u"Çıkan \"1O\": 1 okunur"_s},
+                                     yer + QStringList{u"BirimFiyat \"1 000\": 1000 okunur"_s}}));
     }
 
     void dusumIsaretiSatirsizYaDaKayitsiz()
@@ -129,7 +130,8 @@ private slots:
         bas(1, u"14.03.2026"_s, {}, u"DUSUM_B"_s);
         bas(2, u"15.03.2026"_s, {}, u"DUSUM_B"_s);
         // Lines of 2025 marked by write-offs 1 and 3 of 2026 and 1 of 2025.
-        for (const auto& [n, no, tarih] : {std::tuple(1, u"1"_s, u"14.03.2026"_s), std::tuple(2, u"3"_s, u"14.03.2026"_s),
+        for (const auto& [n, no, tarih] : {std::tuple(1, u"1"_s, u"14.03.2026"_s),
+                                           std::tuple(2, u"3"_s, u"14.03.2026"_s),
                                            std::tuple(3, u"1"_s, u"31.12.2025"_s)})
             satir({.tarih = u"05.01.2025"_s, .satir = n, .fcinss = u"D"_s, .kabulSayi = no, .kabulTarih = tarih});
         QCOMPARE(bulgular(DusumIsareti),

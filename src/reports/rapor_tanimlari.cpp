@@ -9,6 +9,7 @@
 #include "rapor_belgesi.h"
 #include "saat.h"
 #include "veri.h"
+#include "yil_sonu_denetimi.h"
 
 #include <algorithm>
 
@@ -131,6 +132,23 @@ RaporTanimi kesinHesap()
     return r;
 }
 
+// The checks of the year the period starts in: that of --baslangic, else
+// the working year the command line opens with.
+RaporTanimi yilSonuDenetimi()
+{
+    RaporTanimi r;
+    r.ad = QStringLiteral("yil-sonu-denetimi");
+    r.aciklama = QStringLiteral("yıl sonu denetimi: başlangıç tarihinin yılının kayıtları");
+    r.yon = 1;
+    r.kagit = [](const RaporSuzgeci&, const SabitSatiri&) { return YilSonuDenetimi::Kagit(); };
+    r.yuru = [](Veri& veri, const RaporSuzgeci& s, const QString&, const SabitSatiri&,
+                const std::function<bool(RaporTablosu&&)>& her) {
+        const QString yil = QString::number(s.Tarih.year());
+        her(YilSonuDenetimi::Tablo(YilSonuDenetimi::Denetle(veri.Ayniyat(), veri.Genel(), yil), yil));
+    };
+    return r;
+}
+
 }
 
 const QList<RaporTanimi>& RaporTanimlari::Hepsi()
@@ -140,7 +158,8 @@ const QList<RaporTanimi>& RaporTanimlari::Hepsi()
                                                  dayanikListe(QStringLiteral("T")),
                                                  dayanikListe2(),
                                                  hesapCetveli(),
-                                                 kesinHesap()};
+                                                 kesinHesap(),
+                                                 yilSonuDenetimi()};
     return raporlar;
 }
 

@@ -47,7 +47,7 @@ public:
         m_p.ForeColor = Qt::black;
         for (const KagitSatiri& satir : tablo.ustBilgi)
             SatirYaz(satir);
-        SayfaBasi();
+        SayfaBasi(true);
 
         int sayac = m_kagit.ilkSayac;
         int sira = 0;
@@ -72,14 +72,16 @@ public:
     void Bitir() override { m_p.EndDoc(); }
 
 private:
-    void SayfaBasi()
+    void SayfaBasi(bool ilk)
     {
-        if (m_kagit.bant)
+        const bool ilkFarkli = !m_kagit.ilkBasliklar.isEmpty();
+        if (m_kagit.bant && (ilk || !ilkFarkli))
             SatirYaz(m_kagit.bant(m_sayfaNo));
         for (const KagitSatiri& satir : m_kagit.ayiricilar)
             SatirYaz(satir);
         m_p.FontBold = true;
-        SatirYaz(m_kagit.basliklar);
+        for (const KagitSatiri& satir : ilk && ilkFarkli ? m_kagit.ilkBasliklar : QList<KagitSatiri>{m_kagit.basliklar})
+            SatirYaz(satir);
         m_p.FontBold = false;
     }
 
@@ -87,7 +89,7 @@ private:
     {
         m_p.NewPage();
         ++m_sayfaNo;
-        SayfaBasi();
+        SayfaBasi(false);
         sayac = m_kagit.devam;
     }
 

@@ -75,6 +75,9 @@ struct RaporKagidi
     // reports that recount the Sıra column.
     std::function<std::optional<KagitSatiri>(const RaporSatiri& satir, int& sira)> satir;
     QList<KagitSatiri> kapanis;  // the closing block (signatures)
+    // The first page's headings where they differ from the ones the later
+    // pages repeat, in bold; those later pages then print no band.
+    QList<KagitSatiri> ilkBasliklar;
 };
 
 struct RaporTablosu

@@ -21,10 +21,10 @@ class TstSayimTutanakEkrani : public QObject, protected EkranTesti<SayimTutanak>
     QString kodlar() const
     {
         const QAbstractItemModel* m = bul<QTreeView>(u"lstRapor"_s)->model();
-        QStringList l;
+        QString l;
         for (int r = 0; r < m->rowCount(); ++r)
-            l << m->index(r, SayimTutanagi::HesapKod).data().toString();
-        return l.join(u'|');
+            l += m->index(r, SayimTutanagi::HesapKod).data().toString() + u'|';
+        return l;
     }
 
 private slots:
@@ -39,9 +39,9 @@ private slots:
         }
         ac();
         m_ekran->HangiYaz(u"D"_s);  // from 01.01.1900: the lines of 2020 count
-        QCOMPARE(kodlar(), u"150 01 01 001|255 01 01 001|"_s);
+        QCOMPARE(kodlar(), u"150 01 01 001|255 01 01 001||"_s);
         Tus(Qt::Key_F5);
-        QCOMPARE(kodlar(), u"255 01 01 001|"_s);
+        QCOMPARE(kodlar(), u"255 01 01 001||"_s);
         BellekCikti bellek;
         m_ekran->CiktiSec(&bellek);
         Tus(Qt::Key_F2);

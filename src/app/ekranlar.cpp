@@ -9,6 +9,7 @@
 #include "malzeme_l.h"
 #include "menu.h"
 #include "sabit.h"
+#include "sayim_tutanak_ekrani.h"
 #include "sinif_tani.h"
 #include "unite_tani.h"
 #include "yil_devri_ekrani.h"
@@ -78,6 +79,10 @@ void EkranlariTanimla(Menu& menu)
                       tekOrnek<HesapCetveli>({}, [](HesapCetveli& h, const QVariantMap&) { h.Toplu(); }));
     menu.EkranTanimla(QStringLiteral("KesinHesap"),
                       tekOrnek<KesinHesap>({}, [](KesinHesap& k, const QVariantMap&) { k.Toplu(); }));
+    menu.EkranTanimla(QStringLiteral("SayimTutanak"),
+                      tekOrnek<SayimTutanak>({}, [](SayimTutanak& s, const QVariantMap& kip) {
+                          s.HangiYaz(kip.value(QStringLiteral("Hangi")).toString());
+                      }));
     menu.EkranTanimla(QStringLiteral("Dusum"), tekOrnek<Dusum>([dusum](Dusum& d) { *dusum = &d; }));
     menu.EkranTanimla(QStringLiteral("HESAP_K"), tekOrnek<HESAP_K>());
     menu.EkranTanimla(QStringLiteral("Malzeme_L"), tekOrnek<Malzeme_L>());

@@ -8,6 +8,8 @@
 #include "kesin_hesap.h"
 #include "rapor_belgesi.h"
 #include "saat.h"
+#include "sayim_tutanak.h"
+#include "sayim_tutanak_kagidi.h"
 #include "veri.h"
 #include "yil_sonu_denetimi.h"
 
@@ -149,6 +151,27 @@ RaporTanimi yilSonuDenetimi()
     return r;
 }
 
+// The count minutes as the menu opens them (Hangi "D"): every class of the
+// plan from 01.01.1900 to today, one table, the committee's signatures.
+RaporTanimi sayimTutanagi()
+{
+    RaporTanimi r;
+    r.ad = QStringLiteral("sayim-tutanagi");
+    r.hangiler = QStringLiteral("D");
+    r.aciklama = QStringLiteral("sayım tutanağı (TMY-12), kayıtlara göre ambardaki miktar");
+    r.kagit = [](const RaporSuzgeci& s, const SabitSatiri& sabit) { return SayimTutanagi::Kagit(s, sabit); };
+    r.yuru = [](Veri& veri, const RaporSuzgeci& s, const QString&, const SabitSatiri& sabit,
+                const std::function<bool(RaporTablosu&&)>& her) {
+        RaporTablosu t = SayimTutanagi::Tablo(veri.Ayniyat(), veri.Genel(), s);
+        // Only the closing row: no class had lines, nothing to count.
+        if (t.satirlar.size() < 2)
+            return;
+        t.ustBilgi = RaporBelgeleri::UstBilgi(sabit, t, SayimTutanagi::Etiketler());
+        her(std::move(t));
+    };
+    return r;
+}
+
 }
 
 const QList<RaporTanimi>& RaporTanimlari::Hepsi()
@@ -157,6 +180,7 @@ const QList<RaporTanimi>& RaporTanimlari::Hepsi()
                                                  dayanikListe(QStringLiteral("D")),
                                                  dayanikListe(QStringLiteral("T")),
                                                  dayanikListe2(),
+                                                 sayimTutanagi(),
                                                  hesapCetveli(),
                                                  kesinHesap(),
                                                  yilSonuDenetimi()};

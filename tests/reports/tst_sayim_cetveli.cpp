@@ -1,0 +1,149 @@
+#include "cikti.h"
+#include "gecici_veri.h"
+#include "rapor_belgesi.h"
+#include "sayim_cetveli.h"
+#include "veri.h"
+#include "veritabani.h"
+#include "yil_devri.h"
+
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+using namespace SayimDokum;
+using namespace YilDevri;
+
+// The count and inventory table on hand-made lines, the figures worked out
+// below; the report year is 2025.
+class TstSayimCetveli : public QObject, protected GeciciVeri
+{
+    Q_OBJECT
+
+    void sinif(const QString& kod)
+    {
+        veri().Genel().Calistir(u"insert into HESAP_K (HesapKod, HesapAd) values (?, ?)"_s, {kod, u"Ad "_s + kod});
+    }
+
+    void satir(int fisNo, const QString& tarih, const QString& kod, const QString& miktar, const QString& cikan,
+               const QString& fiyat, const QString& fcinss = {}, const QString& birimi = u"ADET"_s)
+    {
+        veri().Ayniyat().Calistir(u"insert into FIS (Tarih, FisNo, FCins, FCinss, Satir, HesapKod, Miktar, Cikan, "
+                                  "BirimFiyat, Birimi) values (?, ?, 'G', ?, 1, ?, ?, ?, ?, ?)"_s,
+                                  {tarih, fisNo, fcinss, kod, miktar, cikan, fiyat, birimi});
+    }
+
+    Sonuc cetvel(const QString& anaHesap = {}, const QString& altHesap = {})
+    {
+        RaporSuzgeci s;
+        s.Tarih = QDate(1900, 1, 1), s.Tarih1 = QDate(2025, 12, 31);
+        return Hesapla(veri().Ayniyat(), veri().Genel(), s, anaHesap, altHesap);
+    }
+
+private slots:
+    void init()
+    {
+        Yenile();
+        veri().Genel().Calistir(u"Delete from HESAP_K"_s);
+        // Classes in the plan's order; a 10-character code and one without
+        // lines give no row, a first-level code is no class.
+        for (const QString& kod : {u"150 01 01"_s, u"253 01 01"_s, u"254 01 01"_s, u"255 01 01"_s, u"255 01 01 0"_s,
+                                   u"255 01"_s})
+            sinif(kod);
+        // Consumables: earlier 6 in at 2, 1 out at 2; in the year 5 out at 2.
+        satir(1, u"31.12.2024"_s, u"150 01 01 001"_s, u"6"_s, u"1"_s, u"2"_s);
+        satir(2, u"01.01.2025"_s, u"150 01 01 002"_s, {}, u"5"_s, u"2"_s);
+        // A durable item issued in the year by a write-off only: 2 at 3.
+        satir(3, u"10.05.2025"_s, u"254 01 01 001"_s, {}, u"2"_s, u"3"_s, u"D"_s);
+        // Durable: earlier 10 in at 5, 3 issued without a write-off (counts
+        // nothing), 2 written off at 5; in the year 4 in at 7 and 1 written
+        // off at 7 on the last day; a line of the next year counts nothing.
+        satir(9, u"31.12.2024"_s, u"255 01 01 001"_s, u"10"_s, u"3"_s, u"5"_s, {}, u"KG"_s);
+        satir(4, u"15.06.2024"_s, u"255 01 01 002"_s, {}, u"2"_s, u"5"_s, u"D"_s);
+        satir(5, u"01.01.2025"_s, u"255 01 01 001"_s, u"4,0"_s, {}, u"7"_s);
+        satir(6, u"31.12.2025"_s, u"255 01 01 001"_s, {}, u"1"_s, u"7"_s, u"D"_s, u"METRE"_s);
+        satir(7, u"01.01.2026"_s, u"255 01 01 001"_s, u"100"_s, {}, u"1"_s);
+    }
+
+    // Each class from its own lines; the closing sums over all classes.
+    void yilMantigi()
+    {
+        const Sonuc c = cetvel();
+        QVERIFY(c.sinifVar);
+        const QList<RaporSatiri>& r = c.tablo.satirlar;
+        QCOMPARE(r.size(), 4);
+        // 150: carried 6 - 1 = 5, its value 6 x 2 = 12 with the issue not
+        // taken off; Toplam 5 and 12; out 5 and 10; carry-over 0 (blank) and 2.
+        QCOMPARE(r[0].hucreler, (QStringList{u"1"_s, u"150 01 01"_s, u"Ad 150 01 01"_s, u"ADET"_s, u"5,00"_s, {}, {},
+                                            {}, u"5,00"_s, u"12,00"_s, u"5,00"_s, u"10,00"_s, {}, u"2,00"_s}));
+        // 254: only the year's write-off: carry-over -2 and -6.
+        QCOMPARE(r[1].hucreler, (QStringList{u"2"_s, u"254 01 01"_s, u"Ad 254 01 01"_s, u"ADET"_s, {}, {}, {}, {},
+                                            {}, {}, u"2,00"_s, u"6,00"_s, u"-2,00"_s, u"-6,00"_s}));
+        // 255: carried 10 - 2 = 8, value 50; in 4 and 28; Toplam 12 and 78;
+        // out 1 and 7; carry-over 11 and 71. Birimi of voucher 9, the last
+        // in FisNo order, not of the last written.
+        QCOMPARE(r[2].hucreler, (QStringList{u"3"_s, u"255 01 01"_s, u"Ad 255 01 01"_s, u"KG"_s, u"8,00"_s, {},
+                                            u"4,00"_s, u"28,00"_s, u"12,00"_s, u"78,00"_s, u"1,00"_s, u"7,00"_s,
+                                            u"11,00"_s, u"71,00"_s}));
+        QCOMPARE(r[3].tur, SatirTuru::Kapanis);
+        QCOMPARE(r[3].hucreler, (QStringList{{}, {}, {}, u"GenelToplam"_s, u"13,00"_s, {}, u"4,00"_s, u"28,00"_s,
+                                            u"17,00"_s, u"90,00"_s, {}, {}, u"9,00"_s, u"67,00"_s}));
+    }
+
+    // T2's main account and HesapNo4's first-level code narrow the classes
+    // and the lines; nothing left gives no closing row.
+    void hesapSecimi()
+    {
+        const Sonuc c = cetvel(u"255"_s);
+        QCOMPARE(c.tablo.tasinirAdi, u"Demirbaşlar"_s);
+        QCOMPARE(c.tablo.satirlar.size(), 2);
+        QCOMPARE(c.tablo.satirlar[0].hucreler.mid(0, 2), (QStringList{u"1"_s, u"255 01 01"_s}));
+        QCOMPARE(c.tablo.satirlar[1].hucreler.at(DevirTutar), u"71,00"_s);
+        QCOMPARE(cetvel({}, u"150 01"_s).tablo.satirlar[0].hucreler.at(Kod), u"150 01 01"_s);
+        QCOMPARE(cetvel({}, u"150 01"_s).tablo.satirlar.size(), 2);
+        const Sonuc bos = cetvel(u"253"_s);
+        QVERIFY(bos.sinifVar);
+        QVERIFY(bos.tablo.satirlar.isEmpty());
+        veri().Genel().Calistir(u"Delete from HESAP_K"_s);
+        QVERIFY(!cetvel().sinifVar);
+    }
+
+    // The first page opens wide, the pages after it narrow; the counter runs
+    // from 8 and a page ends past 46: 39 rows, then 42 a page.
+    void kagit()
+    {
+        RaporTablosu t = cetvel().tablo;
+        const RaporSatiri kapanis = t.satirlar.takeLast();
+        while (t.satirlar.size() < 81)
+            t.satirlar << t.satirlar.first();
+        t.satirlar << kapanis;
+        const SabitSatiri sabit{{u"SayimBaskan"_s, u" AHMET "_s}, {u"SayimUyeUnvan2"_s, u"ÖĞRETMEN"_s}};
+        BellekCikti cikti;
+        int sayfaNo = 1;
+        auto belge = RaporBelgeleri::Kagit(cikti, Kagit(sabit), 8.5, 2, sayfaNo);
+        belge->Ekle(t);
+        belge->Bitir();
+        const Belge b = cikti.belgeler.value(0);
+        QCOMPARE(b.size(), 3);
+        const auto metinler = [&](int sayfa) {
+            QStringList l;
+            for (const SayfaYazisi& y : b[sayfa].yazilar)
+                l << y.metin;
+            return l;
+        };
+        const QRegularExpression kod(u"^\\d{3} 01 01$"_s);
+        QCOMPARE(metinler(0).filter(kod).size(), 39);
+        QCOMPARE(metinler(1).filter(kod).size(), 42);
+        QVERIFY(metinler(0).contains(u"GeçenYılDevreden"_s));
+        QVERIFY(metinler(0).filter(u"GeçenYıldan"_s).isEmpty());
+        QCOMPARE(metinler(1).filter(u"GeçenYıldan"_s).size(), 1);
+        QVERIFY(metinler(1).first().startsWith(QString(100, u'-')));
+        // The closing row's label is cut to its six places; the signatures
+        // follow the last row.
+        const QStringList son = metinler(2);
+        QVERIFY(son.contains(u"GenelT"_s));
+        QVERIFY(son.contains(u"AHMET"_s) && son.contains(u"ÖĞRETMEN"_s) && son.contains(u"TMY Örnek. 13"_s));
+        QVERIFY(son.indexOf(u"GenelT"_s) < son.indexOf(u"TAŞINIR KAYIT VE KONTROL YETKİLİSİ"_s));
+    }
+};
+
+QTEST_MAIN(TstSayimCetveli)
+#include "tst_sayim_cetveli.moc"

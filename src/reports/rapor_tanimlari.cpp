@@ -6,6 +6,7 @@
 #include "kesin_hesap.h"
 #include "rapor_belgesi.h"
 #include "saat.h"
+#include "sayim_cetveli.h"
 #include "veri.h"
 
 #include <algorithm>
@@ -79,6 +80,26 @@ RaporTanimi kesinHesap()
     return r;
 }
 
+// The count and inventory table as the menu opens it: from 01.01.1900,
+// the report year that of the end date; --hesap names the main account, as
+// a click on T2 does.
+RaporTanimi sayimCetveli()
+{
+    RaporTanimi r;
+    r.ad = QStringLiteral("sayim-cetveli");
+    r.hangiler = QStringLiteral("D");
+    r.aciklama = QStringLiteral("taşınır sayım ve döküm cetveli (TMY-13), --hesap ana hesap");
+    r.kagit = [](const RaporSuzgeci&, const SabitSatiri& sabit) { return SayimDokum::Kagit(sabit); };
+    r.yuru = [](Veri& veri, const RaporSuzgeci& s, const QString&, const SabitSatiri& sabit,
+                const std::function<bool(RaporTablosu&&)>& her) {
+        RaporTablosu t = SayimDokum::Hesapla(veri.Ayniyat(), veri.Genel(), s, s.HesapKod5, QString()).tablo;
+        satirliTablo(t, sabit, [](const SabitSatiri& sabit, const RaporTablosu& t) {
+            return RaporBelgeleri::UstBilgi(sabit, t, SayimDokum::Etiketler());
+        }, her);
+    };
+    return r;
+}
+
 }
 
 const QList<RaporTanimi>& RaporTanimlari::Hepsi()
@@ -87,6 +108,7 @@ const QList<RaporTanimi>& RaporTanimlari::Hepsi()
         defter(),
         hesapCetveli(),
         kesinHesap(),
+        sayimCetveli(),
     };
     return raporlar;
 }

@@ -7,6 +7,7 @@
 #include "malzeme_l.h"
 #include "menu.h"
 #include "sabit.h"
+#include "sayim_cetveli_ekrani.h"
 #include "sinif_tani.h"
 #include "unite_tani.h"
 
@@ -64,6 +65,10 @@ void EkranlariTanimla(Menu& menu)
     menu.EkranTanimla(QStringLiteral("DefTuketim2"),
                       tekOrnek<DefTuketim2>({}, [](DefTuketim2& d, const QVariantMap& kip) {
                           d.HangiYaz(kip.value(QStringLiteral("Hangi")).toString());
+                      }));
+    menu.EkranTanimla(QStringLiteral("SayimCetveli"),
+                      tekOrnek<SayimCetveli>({}, [](SayimCetveli& s, const QVariantMap& kip) {
+                          s.HangiYaz(kip.value(QStringLiteral("Hangi")).toString());
                       }));
     menu.EkranTanimla(QStringLiteral("Dusum"), tekOrnek<Dusum>([dusum](Dusum& d) { *dusum = &d; }));
     menu.EkranTanimla(QStringLiteral("HESAP_K"), tekOrnek<HESAP_K>());

@@ -114,9 +114,10 @@ Sonuc Hesapla(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s, con
 
 QList<RaporListeleri::KodAd> AltHesaplar(Veritabani& genel)
 {
+    const QString sql = QStringLiteral("Select HesapKod, HesapAd from HESAP_K where Mid(HesapKod, 6, 1) <> ''  And "
+                                       "Mid(HesapKod, 8, 1) = ''  ");
     QList<RaporListeleri::KodAd> hesaplar;
-    for (const QStringList& r : genel.Satirlar(QStringLiteral("Select HesapKod, HesapAd from HESAP_K where "
-                                                              "Mid(HesapKod, 6, 1) <> ''  And Mid(HesapKod, 8, 1) = ''  ")))
+    for (const QStringList& r : genel.Satirlar(sql))
         hesaplar.append({r.at(0), r.at(1)});
     return hesaplar;
 }

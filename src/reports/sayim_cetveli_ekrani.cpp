@@ -89,8 +89,6 @@ RaporSuzgeci SayimCetveli::Suzgec() const
 
 void SayimCetveli::Toplu()
 {
-    if (Yuruyor())
-        return;
     m_tarihler = {Tarih->date(), Tarih1->date()};
     QString altHesap;
     for (const RaporListeleri::KodAd& k : m_altHesaplar)

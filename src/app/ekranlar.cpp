@@ -10,6 +10,7 @@
 #include "sayim_cetveli_ekrani.h"
 #include "sinif_tani.h"
 #include "unite_tani.h"
+#include "yil_devri_ekrani.h"
 
 #include <QPointer>
 
@@ -66,10 +67,14 @@ void EkranlariTanimla(Menu& menu)
                       tekOrnek<DefTuketim2>({}, [](DefTuketim2& d, const QVariantMap& kip) {
                           d.HangiYaz(kip.value(QStringLiteral("Hangi")).toString());
                       }));
+    // Opened without Hangi; each opening lists afresh, as Form_Activate did.
+    menu.EkranTanimla(QStringLiteral("HesapCetveli"),
+                      tekOrnek<HesapCetveli>({}, [](HesapCetveli& h, const QVariantMap&) { h.Toplu(); }));
+    menu.EkranTanimla(QStringLiteral("KesinHesap"),
+                      tekOrnek<KesinHesap>({}, [](KesinHesap& k, const QVariantMap&) { k.Toplu(); }));
+    // Hangi "D": the records from their beginning, as the panel opens.
     menu.EkranTanimla(QStringLiteral("SayimCetveli"),
-                      tekOrnek<SayimCetveli>({}, [](SayimCetveli& s, const QVariantMap& kip) {
-                          s.HangiYaz(kip.value(QStringLiteral("Hangi")).toString());
-                      }));
+                      tekOrnek<SayimCetveli>({}, [](SayimCetveli& s, const QVariantMap&) { s.Toplu(); }));
     menu.EkranTanimla(QStringLiteral("Dusum"), tekOrnek<Dusum>([dusum](Dusum& d) { *dusum = &d; }));
     menu.EkranTanimla(QStringLiteral("HESAP_K"), tekOrnek<HESAP_K>());
     menu.EkranTanimla(QStringLiteral("Malzeme_L"), tekOrnek<Malzeme_L>());

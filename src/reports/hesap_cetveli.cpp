@@ -8,7 +8,7 @@
 
 using namespace YilDevri;
 
-namespace HesapCetveli {
+namespace HesapCetveliRaporu {
 
 RaporTablosu Toplu(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s, const QString& anaHesap)
 {

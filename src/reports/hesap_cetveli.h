@@ -9,7 +9,7 @@ class Veritabani;
 // The account table TMY-15 of the screen HesapCetveli: the five column
 // blocks of the count table for each class of the second level and each
 // unit of measure, from the lines ordered by their unit.
-namespace HesapCetveli {
+namespace HesapCetveliRaporu {
 
 // The whole table: the classes under the main account anaHesap (every
 // class when empty), the report year that of Tarih1. No rows when the

@@ -5,7 +5,7 @@
 
 using namespace YilDevri;
 
-namespace KesinHesap {
+namespace KesinHesapRaporu {
 
 RaporTablosu Toplu(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s, const QString& anaHesap,
                    const QString& calisYil)
@@ -18,12 +18,10 @@ RaporTablosu Toplu(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s
 
     double gTaban = 0, gGiren = 0, gGirenTutar = 0, gToplam = 0, gToplamTutar = 0, gDevir = 0, gDevirTutar = 0;
     int sira = 0;
-    const Sinif* sonSinif = nullptr;
     for (qsizetype i = 0; i < o.siniflar.size(); ++i) {
         if (o.bas[i] == o.bas[i + 1])
             continue;
         const Sinif& sinif = o.siniflar[i];
-        sonSinif = &sinif;
         const bool tuketim = sinif.HesapKod.startsWith(QStringLiteral("150"));
         double oncekiNet = 0, oncekiNetTutar = 0, oncekiCikan = 0, oncekiCikanTutar = 0;
         double yilGiren = 0, yilGirenTutar = 0, yilCikan = 0, yilCikanTutar = 0;
@@ -97,11 +95,10 @@ RaporTablosu Toplu(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s
     h[DevirTutar] = ParaYaz(gDevirTutar);
     t.satirlar.append({SatirTuru::Kapanis, h});
 
+    // The class on screen when the walk ends names the table.
     t.baslik = QStringLiteral("   ") + QStringLiteral(" KESİN HESAP İCMAL CETVELİ  ");
-    if (sonSinif) {
-        t.tasinirKod = sonSinif->HesapKod;
-        t.tasinirAdi = sonSinif->HesapAd;
-    }
+    t.tasinirKod = o.siniflar.last().HesapKod;
+    t.tasinirAdi = o.siniflar.last().HesapAd;
     return t;
 }
 

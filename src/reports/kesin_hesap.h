@@ -9,7 +9,7 @@ class Veritabani;
 // The final account summary TMY-17 of the screen KesinHesap: the five
 // column blocks of the count table for each class of the first level, one
 // row a class, for the working year.
-namespace KesinHesap {
+namespace KesinHesapRaporu {
 
 // The whole table: the classes under the main account anaHesap (every
 // class when empty) that have lines; a line's year is set against the

@@ -278,10 +278,15 @@ int RaporEkrani::Yon() const
     return OpYat->isChecked() ? 2 : 1;
 }
 
+QList<KagitSatiri> RaporEkrani::UstBilgi(const SabitSatiri& sabit, const RaporTablosu& tablo) const
+{
+    return RaporBelgeleri::UstBilgi(sabit, tablo, Etiketler());
+}
+
 RaporTablosu RaporEkrani::UstBilgili() const
 {
     RaporTablosu t = m_tablo;
-    t.ustBilgi = RaporBelgeleri::UstBilgi(SabitKayit::Getir(Genel()).value_or(SabitSatiri()), t, Etiketler());
+    t.ustBilgi = UstBilgi(SabitKayit::Getir(Genel()).value_or(SabitSatiri()), t);
     return t;
 }
 

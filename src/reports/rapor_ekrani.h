@@ -2,6 +2,7 @@
 
 #include "kart_ekrani.h"
 #include "rapor_tablosu.h"
+#include "sabit_kayit.h"
 
 #include <functional>
 
@@ -39,7 +40,10 @@ public:
 protected:
     // The paper of the report and the labels of its header block.
     virtual RaporKagidi Kagit() const = 0;
-    virtual QStringList Etiketler() const = 0;
+    virtual QStringList Etiketler() const { return {}; }
+    // The header block from the constants: the statutory block with the
+    // labels above, unless the form has one of its own.
+    virtual QList<KagitSatiri> UstBilgi(const SabitSatiri& sabit, const RaporTablosu& tablo) const;
     // F5, Command3: the walk again from the class on screen.
     virtual void Command3Calistir() = 0;
 

@@ -54,11 +54,11 @@ RaporTanimi hesapCetveli()
     RaporTanimi r;
     r.ad = QStringLiteral("hesap-cetveli");
     r.aciklama = QStringLiteral("taşınır hesap cetveli (TMY-15), --hesap ana hesap");
-    r.kagit = [](const RaporSuzgeci&, const SabitSatiri& sabit) { return HesapCetveli::Kagit(sabit); };
+    r.kagit = [](const RaporSuzgeci&, const SabitSatiri& sabit) { return HesapCetveliRaporu::Kagit(sabit); };
     r.yuru = [](Veri& veri, const RaporSuzgeci& s, const QString&, const SabitSatiri& sabit,
                 const std::function<bool(RaporTablosu&&)>& her) {
-        RaporTablosu t = HesapCetveli::Toplu(veri.Ayniyat(), veri.Genel(), s, s.HesapKod5);
-        satirliTablo(t, sabit, HesapCetveli::UstBilgi, her);
+        RaporTablosu t = HesapCetveliRaporu::Toplu(veri.Ayniyat(), veri.Genel(), s, s.HesapKod5);
+        satirliTablo(t, sabit, HesapCetveliRaporu::UstBilgi, her);
     };
     return r;
 }
@@ -69,13 +69,13 @@ RaporTanimi kesinHesap()
     RaporTanimi r;
     r.ad = QStringLiteral("kesin-hesap");
     r.aciklama = QStringLiteral("kesin hesap icmal cetveli (TMY-17), --hesap ana hesap");
-    r.kagit = [](const RaporSuzgeci&, const SabitSatiri&) { return KesinHesap::Kagit(); };
+    r.kagit = [](const RaporSuzgeci&, const SabitSatiri&) { return KesinHesapRaporu::Kagit(); };
     r.yuru = [](Veri& veri, const RaporSuzgeci& s, const QString&, const SabitSatiri& sabit,
                 const std::function<bool(RaporTablosu&&)>& her) {
         const QDate yil = s.Tarih1.isValid() ? s.Tarih1 : Saat::Bugun();
         RaporTablosu t =
-            KesinHesap::Toplu(veri.Ayniyat(), veri.Genel(), s, s.HesapKod5, yil.toString(QStringLiteral("yyyy")));
-        satirliTablo(t, sabit, KesinHesap::UstBilgi, her);
+            KesinHesapRaporu::Toplu(veri.Ayniyat(), veri.Genel(), s, s.HesapKod5, yil.toString(QStringLiteral("yyyy")));
+        satirliTablo(t, sabit, KesinHesapRaporu::UstBilgi, her);
     };
     return r;
 }
@@ -92,7 +92,7 @@ RaporTanimi sayimCetveli()
     r.kagit = [](const RaporSuzgeci&, const SabitSatiri& sabit) { return SayimDokum::Kagit(sabit); };
     r.yuru = [](Veri& veri, const RaporSuzgeci& s, const QString&, const SabitSatiri& sabit,
                 const std::function<bool(RaporTablosu&&)>& her) {
-        RaporTablosu t = SayimDokum::Hesapla(veri.Ayniyat(), veri.Genel(), s, s.HesapKod5, QString()).tablo;
+        RaporTablosu t = SayimDokum::Hesapla(veri.Ayniyat(), veri.Genel(), s, s.HesapKod5, QString());
         satirliTablo(t, sabit, [](const SabitSatiri& sabit, const RaporTablosu& t) {
             return RaporBelgeleri::UstBilgi(sabit, t, SayimDokum::Etiketler());
         }, her);

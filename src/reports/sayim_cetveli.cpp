@@ -8,33 +8,20 @@ namespace SayimDokum {
 
 using namespace YilDevri;
 
-const QList<std::pair<QString, QString>>& AnaHesaplar()
+RaporTablosu Hesapla(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s, const QString& anaHesap,
+                     const QString& altHesap)
 {
-    static const QList<std::pair<QString, QString>> hesaplar = {
-        {QStringLiteral("150"), QStringLiteral("İlkmadde-Malzeme")},
-        {QStringLiteral("253"), QStringLiteral("Tesis-Cihazlar")},
-        {QStringLiteral("254"), QStringLiteral("Taşıtlar")},
-        {QStringLiteral("255"), QStringLiteral("Demirbaşlar")},
-    };
-    return hesaplar;
-}
-
-Sonuc Hesapla(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s, const QString& anaHesap,
-              const QString& altHesap)
-{
-    Sonuc sonuc;
-    RaporTablosu& t = sonuc.tablo;
+    RaporTablosu t;
     t.baslik = QStringLiteral("   ") + QStringLiteral(" TAŞINIR SAYIM ve DÖKÜM CETVELİ  ");
     t.sutunlar = Sutunlar();
-    for (const auto& [kod, ad] : AnaHesaplar())
-        if (kod == anaHesap) {
-            t.tasinirKod = kod;
-            t.tasinirAdi = ad;
-        }
 
     const QString y = s.Tarih1.isValid() ? s.Tarih1.toString(QStringLiteral("yyyy")) : QString();
     const Okunan o = Oku(ayniyat, genel, s, Duzey::Iki, anaHesap, y);
-    sonuc.sinifVar = !o.siniflar.isEmpty();
+    // The header names the last class of the walk, as FCins2 holds it.
+    if (!o.siniflar.isEmpty()) {
+        t.tasinirKod = o.siniflar.last().HesapKod;
+        t.tasinirAdi = o.siniflar.last().HesapAd;
+    }
 
     double dq = 0, giren = 0, girenTutar = 0, tq = 0, tt = 0, devir = 0, devirTutar = 0;
     for (qsizetype i = 0; i < o.siniflar.size(); ++i) {
@@ -109,7 +96,7 @@ Sonuc Hesapla(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s, con
         h[DevirTutar] = ParaYaz(devirTutar);
         t.satirlar.append({SatirTuru::Kapanis, h});
     }
-    return sonuc;
+    return t;
 }
 
 QList<RaporListeleri::KodAd> AltHesaplar(Veritabani& genel)

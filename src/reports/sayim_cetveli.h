@@ -9,8 +9,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <utility>
-
 class Veritabani;
 
 // The count and inventory table TMY-13 of the screen SayimCetveli: one row
@@ -20,24 +18,13 @@ class Veritabani;
 // of YilDevri::Hucre.
 namespace SayimDokum {
 
-// The main accounts of the grid T2, code and name.
-const QList<std::pair<QString, QString>>& AnaHesaplar();
-
-struct Sonuc
-{
-    RaporTablosu tablo;
-    // The code plan had classes to walk: when it had none, the screen says
-    // "  Malzeme Kaydı Bulunamadı .. ".
-    bool sinifVar = false;
-};
-
 // The table from the voucher lines of the filter's period and boxes. The
 // report year is the year of s.Tarih1: a line of an earlier year is carried
 // over, one of that year entered or issued, a later one counts in nothing.
 // anaHesap is the main account chosen on T2 and altHesap the first-level
 // code of HesapNo4; empty, all classes. A class without lines in the period
 // gives no row. Throws VeriHatasi.
-Sonuc Hesapla(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s, const QString& anaHesap,
+RaporTablosu Hesapla(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s, const QString& anaHesap,
               const QString& altHesap);
 
 // The first-level codes HesapNo4 offers, with their names.

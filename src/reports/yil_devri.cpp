@@ -7,14 +7,13 @@
 #include <algorithm>
 #include <string>
 #include <string_view>
-#include <tuple>
 #include <unordered_map>
 
 namespace YilDevri {
 
 namespace {
 
-enum Sutun : int { sHesapKod, sTarih, sFisNo, sSatir, sBirimi, sMiktar, sBirimFiyat, sCikan, sFCinss, sRowid };
+enum Sutun : int { sHesapKod, sTarih, sFisNo, sSatir, sBirimi, sMiktar, sBirimFiyat, sCikan, sFCinss };
 
 // The first n characters of a UTF-8 text, as Mid(HesapKod, 1, n) gives them.
 std::string_view basi(std::string_view metin, int n)
@@ -35,58 +34,59 @@ struct SiraDegeri
     double sayi = 0;
     std::string metin;
 
+    static int sinifi(sqlite3_value* v)
+    {
+        const int tur = sqlite3_value_type(v);
+        return tur == SQLITE_NULL ? 0 : tur == SQLITE_INTEGER || tur == SQLITE_FLOAT ? 1 : 2;
+    }
     void Al(sqlite3_value* v)
     {
-        switch (sqlite3_value_type(v)) {
-        case SQLITE_NULL:
-            sinif = 0;
-            break;
-        case SQLITE_INTEGER:
-        case SQLITE_FLOAT:
-            sinif = 1;
+        sinif = sinifi(v);
+        if (sinif == 1)
             sayi = sqlite3_value_double(v);
-            break;
-        default:
-            sinif = 2;
+        else if (sinif == 2)
             metin.assign(DegerBaytlari(v));
-        }
     }
-    bool operator<(const SiraDegeri& o) const
+    // The engine's value against this one, without copying it.
+    int Karsilastir(sqlite3_value* v) const
     {
-        if (sinif != o.sinif)
-            return sinif < o.sinif;
-        return sinif == 1 ? sayi < o.sayi : sinif == 2 && metin < o.metin;
+        const int s = sinifi(v);
+        if (s != sinif)
+            return s < sinif ? -1 : 1;
+        if (s == 1) {
+            const double x = sqlite3_value_double(v);
+            return x < sayi ? -1 : x > sayi ? 1 : 0;
+        }
+        return s == 2 ? DegerBaytlari(v).compare(metin) : 0;
     }
 };
 
-// The place of a line in "order by FisNo, Tarih, Satir".
-struct SiraAnahtari
+// The place of a class's last line in "order by FisNo, Tarih, Satir".
+struct SonSatir
 {
     SiraDegeri fisNo, tarih, satir;
-    qint64 rowid = 0;
 
-    bool operator<(const SiraAnahtari& o) const
+    // The line after this one in that order: ties keep the table's order.
+    bool Sonra(sqlite3_value* f, sqlite3_value* t, sqlite3_value* s) const
     {
-        if (fisNo < o.fisNo || o.fisNo < fisNo)
-            return fisNo < o.fisNo;
-        if (tarih < o.tarih || o.tarih < tarih)
-            return tarih < o.tarih;
-        if (satir < o.satir || o.satir < satir)
-            return satir < o.satir;
-        return rowid < o.rowid;
+        int k = fisNo.Karsilastir(f);
+        if (k == 0)
+            k = tarih.Karsilastir(t);
+        if (k == 0)
+            k = satir.Karsilastir(s);
+        return k >= 0;
     }
 };
 
 struct Grup
 {
     std::vector<Satir> satirlar;
-    SiraAnahtari son;
+    SonSatir son;
     std::uint32_t sonBirimi = 0;
 };
 
-}
-
-QList<Sinif> Siniflar(Veritabani& genel, Duzey duzey, const QString& anaHesap)
+// The statements keep the form's own test of the code's length.
+QList<Sinif> sinifListesi(Veritabani& genel, Duzey duzey, const QString& anaHesap)
 {
     QString sql = duzey == Duzey::Iki
                       ? QStringLiteral("Select HesapKod, HesapAd From HESAP_K where mid(HesapKod,11,1) = '' and "
@@ -104,11 +104,13 @@ QList<Sinif> Siniflar(Veritabani& genel, Duzey duzey, const QString& anaHesap)
     return siniflar;
 }
 
+}
+
 Okunan Oku(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s, Duzey duzey, const QString& anaHesap,
            const QString& yil)
 {
     Okunan o;
-    o.siniflar = Siniflar(genel, duzey, anaHesap);
+    o.siniflar = sinifListesi(genel, duzey, anaHesap);
     const int uzunluk = duzey == Duzey::Iki ? 9 : 6;
 
     // A code twice in the plan gets the same lines twice.
@@ -129,14 +131,19 @@ Okunan Oku(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s, Duzey 
         // One pass over the table in its own order: a query per class cannot
         // use the index through Mid and would read the table once a class.
         SatirOkuyucu q(ayniyat,
-                       QStringLiteral("Select HesapKod, Tarih, FisNo, Satir, birimi, Miktar, BirimFiyat, Cikan, FCinss, "
-                                      "rowid from FIS not indexed Where ")
+                       QStringLiteral("Select HesapKod, Tarih, FisNo, Satir, birimi, Miktar, BirimFiyat, Cikan, FCinss "
+                                      "from FIS not indexed Where ")
                            + k.sql,
                        k.degerler);
         std::string sonKod;
         Grup* sonGrup = nullptr;
         bool ilk = true;
-        SiraAnahtari anahtar;
+        // Lines of one voucher follow each other: date and unit mostly
+        // repeat the last.
+        std::string sonTarih, sonBirim;
+        Yil sonYil = Yil::Sonraki;
+        std::uint32_t sonBirimNo = 0;
+        bool tarihVar = false, birimVar = false;
         while (q.Sonraki()) {
             sqlite3_stmt* c = q.Komut();
             sqlite3_value* hesapKod = sqlite3_column_value(c, sHesapKod);
@@ -157,42 +164,53 @@ Okunan Oku(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s, Duzey 
             satir.cikan = DegerSayisi(sqlite3_column_value(c, sCikan));
             satir.fiyat = DegerSayisi(sqlite3_column_value(c, sBirimFiyat));
             satir.dusum = DusumSatiri(sqlite3_column_value(c, sFCinss));
-            satir.rowid = sqlite3_column_int64(c, sRowid);
 
             sqlite3_value* tarih = sqlite3_column_value(c, sTarih);
             if (sqlite3_value_type(tarih) == SQLITE_NULL)
                 satir.yil = Yil::Sonraki;
             else {
                 const std::string_view t = DegerBaytlari(tarih);
-                auto y = yillar.find(std::string(t));
-                if (y == yillar.end()) {
-                    // Mid(Tarih, 7, 4) against the year, as texts.
-                    const QString l = QString::fromUtf8(t.data(), qsizetype(t.size())).mid(6, 4);
-                    const int fark = l.compare(yil);
-                    y = yillar.emplace(std::string(t), fark < 0 ? Yil::Onceki : fark == 0 ? Yil::Ayni : Yil::Sonraki)
-                            .first;
+                if (!tarihVar || t != sonTarih) {
+                    tarihVar = true;
+                    sonTarih.assign(t);
+                    auto y = yillar.find(sonTarih);
+                    if (y == yillar.end()) {
+                        // Mid(Tarih, 7, 4) against the year, as texts.
+                        const QString l = QString::fromUtf8(t.data(), qsizetype(t.size())).mid(6, 4);
+                        const int fark = l.compare(yil);
+                        y = yillar.emplace(sonTarih, fark < 0    ? Yil::Onceki
+                                                     : fark == 0 ? Yil::Ayni
+                                                                 : Yil::Sonraki)
+                                .first;
+                    }
+                    sonYil = y->second;
                 }
-                satir.yil = y->second;
+                satir.yil = sonYil;
             }
 
             sqlite3_value* birimi = sqlite3_column_value(c, sBirimi);
             if (sqlite3_value_type(birimi) != SQLITE_NULL) {
                 const std::string_view b = DegerBaytlari(birimi);
-                auto bulunan = birimNo.find(std::string(b));
-                if (bulunan == birimNo.end()) {
-                    bulunan = birimNo.emplace(std::string(b), std::uint32_t(o.birimler.size())).first;
-                    o.birimler.push_back(QString::fromUtf8(b.data(), qsizetype(b.size())));
-                    birimBaytlari.emplace_back(b);
+                if (!birimVar || b != sonBirim) {
+                    birimVar = true;
+                    sonBirim.assign(b);
+                    auto bulunan = birimNo.find(sonBirim);
+                    if (bulunan == birimNo.end()) {
+                        bulunan = birimNo.emplace(sonBirim, std::uint32_t(o.birimler.size())).first;
+                        o.birimler.push_back(QString::fromUtf8(b.data(), qsizetype(b.size())));
+                        birimBaytlari.emplace_back(b);
+                    }
+                    sonBirimNo = bulunan->second;
                 }
-                satir.birimi = bulunan->second;
+                satir.birimi = sonBirimNo;
             }
 
-            anahtar.fisNo.Al(sqlite3_column_value(c, sFisNo));
-            anahtar.tarih.Al(tarih);
-            anahtar.satir.Al(sqlite3_column_value(c, sSatir));
-            anahtar.rowid = satir.rowid;
-            if (sonGrup->satirlar.empty() || sonGrup->son < anahtar) {
-                sonGrup->son = anahtar;
+            sqlite3_value* fisNo = sqlite3_column_value(c, sFisNo);
+            sqlite3_value* satirNo = sqlite3_column_value(c, sSatir);
+            if (sonGrup->satirlar.empty() || sonGrup->son.Sonra(fisNo, tarih, satirNo)) {
+                sonGrup->son.fisNo.Al(fisNo);
+                sonGrup->son.tarih.Al(tarih);
+                sonGrup->son.satir.Al(satirNo);
                 sonGrup->sonBirimi = satir.birimi;
             }
             sonGrup->satirlar.push_back(satir);

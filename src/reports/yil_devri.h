@@ -44,13 +44,12 @@ struct Satir
     Yil yil;
     bool dusum;
     std::uint32_t birimi;  // into Okunan::birimler
-    qint64 rowid;
 };
 
 // The lines of every class, each class's in table order.
 struct Okunan
 {
-    QList<Sinif> siniflar;
+    QList<Sinif> siniflar;  // in the plan's order
     // The lines of class i are satirlar[bas[i] .. bas[i + 1]).
     std::vector<Satir> satirlar;
     std::vector<std::size_t> bas;
@@ -64,12 +63,9 @@ struct Okunan
 };
 
 // The classes of the level as HESAP_K holds them, under the main account
-// (the first three characters) when one is chosen.
-QList<Sinif> Siniflar(Veritabani& genel, Duzey duzey, const QString& anaHesap);
-
-// One pass over the lines of the filters (dates, store, unit, recipient,
-// description) for every class of Siniflar; yil is the report year `Y`
-// against which each line's year is set.
+// (the first three characters) when one is chosen, and one pass over the
+// lines of the filters (dates, store, unit, recipient, description) for
+// them all; yil is the report year `Y` against which each line's year is set.
 Okunan Oku(Veritabani& ayniyat, Veritabani& genel, const RaporSuzgeci& s, Duzey duzey, const QString& anaHesap,
            const QString& yil);
 

@@ -40,12 +40,12 @@ class TstYilDevri : public QObject, protected GeciciVeri
 
     RaporTablosu hesapCetveli(const QString& anaHesap = {})
     {
-        return HesapCetveli::Toplu(veri().Ayniyat(), veri().Genel(), suzgec(2026), anaHesap);
+        return HesapCetveliRaporu::Toplu(veri().Ayniyat(), veri().Genel(), suzgec(2026), anaHesap);
     }
 
     RaporTablosu kesinHesap(const QString& calisYil, const QString& anaHesap = {})
     {
-        return KesinHesap::Toplu(veri().Ayniyat(), veri().Genel(), suzgec(2027), anaHesap, calisYil);
+        return KesinHesapRaporu::Toplu(veri().Ayniyat(), veri().Genel(), suzgec(2027), anaHesap, calisYil);
     }
 
 private slots:
@@ -146,7 +146,7 @@ private slots:
             t.satirlar.prepend(ilk);
         const SabitSatiri sabit{{u"AyniyatMemuru1"_s, u" Ali Veli "_s}, {u"AyniyatMemuru2"_s, u"Ayşe Kaya"_s},
                                 {u"KurumAdi"_s, u"Okul"_s}, {u"ilKod"_s, u"06"_s}};
-        t.ustBilgi = HesapCetveli::UstBilgi(sabit, t);
+        t.ustBilgi = HesapCetveliRaporu::UstBilgi(sabit, t);
         QCOMPARE(t.ustBilgi[1][2].metin, u"1.Düzey Kod  : 255 01 01"_s);
 
         const auto sayfalar = [](const RaporTablosu& tablo, const RaporKagidi& kagit) {
@@ -164,7 +164,7 @@ private slots:
             }
             return l;
         };
-        const QList<QStringList> h = sayfalar(t, HesapCetveli::Kagit(sabit));
+        const QList<QStringList> h = sayfalar(t, HesapCetveliRaporu::Kagit(sabit));
         QCOMPARE(h.size(), 2);
         for (const QStringList& s : h) {
             QCOMPARE(s.count(QString(285, u'-')), 2);
@@ -179,9 +179,9 @@ private slots:
         const RaporSatiri kIlk = k.satirlar[0];
         for (int i = 0; i < 40; ++i)
             k.satirlar.prepend(kIlk);
-        k.ustBilgi = KesinHesap::UstBilgi(sabit, k);
+        k.ustBilgi = KesinHesapRaporu::UstBilgi(sabit, k);
         QCOMPARE(k.ustBilgi[0][2].metin, u"Taşınır Kod  : 255 01  Mobilya Grubu"_s);
-        const QList<QStringList> kh = sayfalar(k, KesinHesap::Kagit());
+        const QList<QStringList> kh = sayfalar(k, KesinHesapRaporu::Kagit());
         QCOMPARE(kh.size(), 2);
         QVERIFY(kh[0].contains(QString(275, u'-')) && kh[0].contains(QString(266, u'-')));
         QVERIFY(kh[0].contains(u" Taşınır 1. Düzey"_s) && !kh[0].contains(QString(146, u'-')));

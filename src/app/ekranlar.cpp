@@ -1,5 +1,7 @@
 #include "ekranlar.h"
 
+#include "dayanak2.h"
+#include "dayanik_liste_ekrani.h"
 #include "def_tuketim2.h"
 #include "dusum.h"
 #include "fis_k.h"
@@ -67,6 +69,11 @@ void EkranlariTanimla(Menu& menu)
                       tekOrnek<DefTuketim2>({}, [](DefTuketim2& d, const QVariantMap& kip) {
                           d.HangiYaz(kip.value(QStringLiteral("Hangi")).toString());
                       }));
+    menu.EkranTanimla(QStringLiteral("DayanikListe"),
+                      tekOrnek<DayanikListe>({}, [](DayanikListe& d, const QVariantMap& kip) {
+                          d.HangiYaz(kip.value(QStringLiteral("Hangi")).toString());
+                      }));
+    menu.EkranTanimla(QStringLiteral("Dayanak2"), tekOrnek<Dayanak2>());
     // Opened without Hangi; each opening lists afresh, as Form_Activate did.
     menu.EkranTanimla(QStringLiteral("HesapCetveli"),
                       tekOrnek<HesapCetveli>({}, [](HesapCetveli& h, const QVariantMap&) { h.Toplu(); }));

@@ -52,7 +52,8 @@ std::unique_ptr<RaporBelgesi> Dosya(const QString& dosya, const RaporKagidi& kag
 
 // The header block of the statutory forms from the constants of Sabit and
 // the class of the table, at Tab 2, 80 and 106. etiketler are the four
-// labels of the "Adı" column, whose blanks differ from form to form.
+// labels of the "Adı" column, whose blanks differ from form to form; a
+// fifth, where given, stands for the label " Ölçü Birimi  : ".
 QList<KagitSatiri> UstBilgi(const SabitSatiri& sabit, const RaporTablosu& tablo, const QStringList& etiketler);
 
 }

@@ -187,7 +187,7 @@ QList<KagitSatiri> UstBilgi(const SabitSatiri& sabit, const RaporTablosu& tablo,
         {{2, etiketler.value(1) + deger("BirimAd")},
          {80, kod + deger("BirimKod")},
          {106, QStringLiteral("Taşınır Kod  : ") + tablo.tasinirKod}},
-        {{2, etiketler.value(2)}, {80, kod}, {106, QStringLiteral(" Ölçü Birimi  : ") + tablo.olcuBirimi}},
+        {{2, etiketler.value(2)}, {80, kod}, {106, etiketler.value(4, QStringLiteral(" Ölçü Birimi  : ")) + tablo.olcuBirimi}},
         {{2, etiketler.value(3) + deger("MuhasebeBirimiAdi")}, {80, kod + deger("MuhasebeBirimiKod")}},
     };
 }

@@ -1,5 +1,7 @@
 #include "rapor_tanimlari.h"
 
+#include "dayanik_liste.h"
+#include "dayanik_liste_kagidi.h"
 #include "defter.h"
 #include "defter_kagidi.h"
 #include "hesap_cetveli.h"
@@ -35,6 +37,42 @@ RaporTanimi defter()
     return r;
 }
 
+// The tables of the units that have lines, one after the other.
+template <typename Liste>
+void birimBirim(const Liste& liste, const SabitSatiri& sabit, const std::function<bool(RaporTablosu&&)>& her)
+{
+    for (qsizetype i = 0; i < liste.Sayi(); ++i) {
+        DayanikListesi::Sonuc sonuc = liste.Hesapla(i);
+        if (sonuc.tablo.satirlar.isEmpty())
+            continue;
+        sonuc.tablo.ustBilgi = RaporBelgeleri::UstBilgi(sabit, sonuc.tablo, DayanikListesi::Etiketler());
+        if (!her(std::move(sonuc.tablo)))
+            return;
+    }
+}
+
+// The unit lists, every unit that has lines, as the walk answers Yes. One
+// entry for each Hangi: the paper's headings differ.
+RaporTanimi dayanikListe(const QString& hangi)
+{
+    RaporTanimi r;
+    r.hangiler = hangi;
+    if (hangi == u"D") {
+        r.ad = QStringLiteral("dayanik-liste");
+        r.aciklama = QStringLiteral("birim birim dayanıklı taşınır listesi (TMY-8)");
+    } else {
+        r.ad = QStringLiteral("birim-tuketim-liste");
+        r.aciklama = QStringLiteral("birim birim tüketim listesi");
+    }
+    r.kagit = [hangi](const RaporSuzgeci& s, const SabitSatiri&) { return DayanikListesi::Kagit(s, hangi); };
+    r.yuru = [](Veri& veri, const RaporSuzgeci& s, const QString& hangi, const SabitSatiri& sabit,
+                const std::function<bool(RaporTablosu&&)>& her) {
+        birimBirim(DayanikListesi::Liste(veri.Ayniyat(), veri.Genel(), s, hangi, DayanikListesi::Birimler(veri.Genel())),
+                   sabit, her);
+    };
+    return r;
+}
+
 // The whole table as one; a table without a line of any class writes no
 // file.
 void satirliTablo(RaporTablosu& t, const SabitSatiri& sabit,
@@ -59,6 +97,20 @@ RaporTanimi hesapCetveli()
                 const std::function<bool(RaporTablosu&&)>& her) {
         RaporTablosu t = HesapCetveliRaporu::Toplu(veri.Ayniyat(), veri.Genel(), s, s.HesapKod5);
         satirliTablo(t, sabit, HesapCetveliRaporu::UstBilgi, her);
+    };
+    return r;
+}
+
+// The second durable goods list of every unit, of all dates.
+RaporTanimi dayanikListe2()
+{
+    RaporTanimi r;
+    r.ad = QStringLiteral("dayanik-liste2");
+    r.aciklama = QStringLiteral("birim birim dayanıklı taşınır listesi 2 (tüm tarihler, düşümler dahil)");
+    r.kagit = [](const RaporSuzgeci&, const SabitSatiri&) { return DayanikListesi::Kagit2(); };
+    r.yuru = [](Veri& veri, const RaporSuzgeci&, const QString&, const SabitSatiri& sabit,
+                const std::function<bool(RaporTablosu&&)>& her) {
+        birimBirim(DayanikListesi::Liste2(veri.Ayniyat(), DayanikListesi::Birimler(veri.Genel())), sabit, her);
     };
     return r;
 }
@@ -104,12 +156,13 @@ RaporTanimi sayimCetveli()
 
 const QList<RaporTanimi>& RaporTanimlari::Hepsi()
 {
-    static const QList<RaporTanimi> raporlar = {
-        defter(),
-        hesapCetveli(),
-        kesinHesap(),
-        sayimCetveli(),
-    };
+    static const QList<RaporTanimi> raporlar = {defter(),
+                                                 dayanikListe(QStringLiteral("D")),
+                                                 dayanikListe(QStringLiteral("T")),
+                                                 dayanikListe2(),
+                                                 hesapCetveli(),
+                                                 kesinHesap(),
+                                                 sayimCetveli()};
     return raporlar;
 }
 

@@ -10,6 +10,7 @@
 #include "saat.h"
 #include "sayim_cetveli.h"
 #include "veri.h"
+#include "yil_sonu_denetimi.h"
 
 #include <algorithm>
 
@@ -132,6 +133,23 @@ RaporTanimi kesinHesap()
     return r;
 }
 
+// The checks of the year the period starts in: that of --baslangic, else
+// the working year the command line opens with.
+RaporTanimi yilSonuDenetimi()
+{
+    RaporTanimi r;
+    r.ad = QStringLiteral("yil-sonu-denetimi");
+    r.aciklama = QStringLiteral("yıl sonu denetimi: başlangıç tarihinin yılının kayıtları");
+    r.yon = 1;
+    r.kagit = [](const RaporSuzgeci&, const SabitSatiri&) { return YilSonuDenetimi::Kagit(); };
+    r.yuru = [](Veri& veri, const RaporSuzgeci& s, const QString&, const SabitSatiri&,
+                const std::function<bool(RaporTablosu&&)>& her) {
+        const QString yil = QString::number(s.Tarih.year());
+        her(YilSonuDenetimi::Tablo(YilSonuDenetimi::Denetle(veri.Ayniyat(), veri.Genel(), yil), yil));
+    };
+    return r;
+}
+
 // The count and inventory table as the menu opens it: from 01.01.1900,
 // the report year that of the end date; --hesap names the main account, as
 // a click on T2 does.
@@ -162,6 +180,7 @@ const QList<RaporTanimi>& RaporTanimlari::Hepsi()
                                                  dayanikListe2(),
                                                  hesapCetveli(),
                                                  kesinHesap(),
+                                                 yilSonuDenetimi(),
                                                  sayimCetveli()};
     return raporlar;
 }

@@ -10,6 +10,7 @@
 #include "menu.h"
 #include "sabit.h"
 #include "sayim_tutanak_ekrani.h"
+#include "sayim_cetveli_ekrani.h"
 #include "sinif_tani.h"
 #include "unite_tani.h"
 #include "yil_devri_ekrani.h"
@@ -83,6 +84,9 @@ void EkranlariTanimla(Menu& menu)
                       tekOrnek<SayimTutanak>({}, [](SayimTutanak& s, const QVariantMap& kip) {
                           s.HangiYaz(kip.value(QStringLiteral("Hangi")).toString());
                       }));
+    // Hangi "D": the records from their beginning, as the panel opens.
+    menu.EkranTanimla(QStringLiteral("SayimCetveli"),
+                      tekOrnek<SayimCetveli>({}, [](SayimCetveli& s, const QVariantMap&) { s.Toplu(); }));
     menu.EkranTanimla(QStringLiteral("Dusum"), tekOrnek<Dusum>([dusum](Dusum& d) { *dusum = &d; }));
     menu.EkranTanimla(QStringLiteral("HESAP_K"), tekOrnek<HESAP_K>());
     menu.EkranTanimla(QStringLiteral("Malzeme_L"), tekOrnek<Malzeme_L>());

@@ -10,6 +10,7 @@
 #include "saat.h"
 #include "sayim_tutanak.h"
 #include "sayim_tutanak_kagidi.h"
+#include "sayim_cetveli.h"
 #include "veri.h"
 #include "yil_sonu_denetimi.h"
 
@@ -172,6 +173,26 @@ RaporTanimi sayimTutanagi()
     return r;
 }
 
+// The count and inventory table as the menu opens it: from 01.01.1900,
+// the report year that of the end date; --hesap names the main account, as
+// a click on T2 does.
+RaporTanimi sayimCetveli()
+{
+    RaporTanimi r;
+    r.ad = QStringLiteral("sayim-cetveli");
+    r.hangiler = QStringLiteral("D");
+    r.aciklama = QStringLiteral("taşınır sayım ve döküm cetveli (TMY-13), --hesap ana hesap");
+    r.kagit = [](const RaporSuzgeci&, const SabitSatiri& sabit) { return SayimDokum::Kagit(sabit); };
+    r.yuru = [](Veri& veri, const RaporSuzgeci& s, const QString&, const SabitSatiri& sabit,
+                const std::function<bool(RaporTablosu&&)>& her) {
+        RaporTablosu t = SayimDokum::Hesapla(veri.Ayniyat(), veri.Genel(), s, s.HesapKod5, QString());
+        satirliTablo(t, sabit, [](const SabitSatiri& sabit, const RaporTablosu& t) {
+            return RaporBelgeleri::UstBilgi(sabit, t, SayimDokum::Etiketler());
+        }, her);
+    };
+    return r;
+}
+
 }
 
 const QList<RaporTanimi>& RaporTanimlari::Hepsi()
@@ -181,6 +202,7 @@ const QList<RaporTanimi>& RaporTanimlari::Hepsi()
                                                  dayanikListe(QStringLiteral("T")),
                                                  dayanikListe2(),
                                                  sayimTutanagi(),
+                                                 sayimCetveli(),
                                                  hesapCetveli(),
                                                  kesinHesap(),
                                                  yilSonuDenetimi()};

@@ -45,7 +45,7 @@ int main(int argc, char** argv)
         for (const QString& hangi : hangiler) {
             Olcum o;
             qint64 tablolar = 0, satirlar = 0;
-            r.yuru(veri, RaporSuzgecleri::Acilis(yil, hangi), hangi, sabit, [&](RaporTablosu&& t) {
+            r.yuru(veri, r.acilis(yil, hangi), hangi, sabit, [&](RaporTablosu&& t) {
                 ++tablolar;
                 satirlar += t.satirlar.size();
                 return true;

@@ -161,7 +161,7 @@ int rapor(Veri& veri, const QStringList& argumanlar, const Komutlar::Secenekler&
                 + kullanim);
         return 2;
     }
-    RaporSuzgeci s = RaporSuzgecleri::Acilis(QString::number(Saat::Bugun().year()), hangi);
+    RaporSuzgeci s = tanim->acilis(QString::number(Saat::Bugun().year()), hangi);
     if (baslangic.isValid())
         s.Tarih = baslangic;
     if (bitis.isValid())

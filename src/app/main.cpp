@@ -88,8 +88,7 @@ int main(int argc, char* argv[])
                                    QStringLiteral("rapor: T tüketim malzemeleri, D dayanıklı taşınırlar."),
                                    QStringLiteral("T|D"));
     const QCommandLineOption baslangic(QStringLiteral("baslangic"),
-                                       QStringLiteral("rapor: başlama tarihi (varsayılan: T için çalışılan yılın "
-                                                      "başı, D için 01.01.1900)."),
+                                       QStringLiteral("rapor: başlama tarihi (varsayılan: raporun ekranının açıldığı tarih)."),
                                        QStringLiteral("gg.aa.yyyy"));
     const QCommandLineOption bitis(QStringLiteral("bitis"), QStringLiteral("rapor: bitiş tarihi (varsayılan: bugün)."),
                                    QStringLiteral("gg.aa.yyyy"));

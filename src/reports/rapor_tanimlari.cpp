@@ -76,6 +76,15 @@ RaporTanimi dayanikListe(const QString& hangi)
     return r;
 }
 
+// The account tables' screens open from the beginning of the records, to
+// the working year's today.
+RaporSuzgeci kayitBasindan(const QString& calisYil, const QString& hangi)
+{
+    RaporSuzgeci s = RaporSuzgecleri::Acilis(calisYil, hangi);
+    s.Tarih = QDate(1900, 1, 1);
+    return s;
+}
+
 // The whole table as one; a table without a line of any class writes no
 // file.
 void satirliTablo(RaporTablosu& t, const SabitSatiri& sabit,
@@ -94,6 +103,7 @@ RaporTanimi hesapCetveli()
 {
     RaporTanimi r;
     r.ad = QStringLiteral("hesap-cetveli");
+    r.acilis = kayitBasindan;
     r.aciklama = QStringLiteral("taşınır hesap cetveli (TMY-15), --hesap ana hesap");
     r.kagit = [](const RaporSuzgeci&, const SabitSatiri& sabit) { return HesapCetveliRaporu::Kagit(sabit); };
     r.yuru = [](Veri& veri, const RaporSuzgeci& s, const QString&, const SabitSatiri& sabit,
@@ -123,6 +133,7 @@ RaporTanimi kesinHesap()
 {
     RaporTanimi r;
     r.ad = QStringLiteral("kesin-hesap");
+    r.acilis = kayitBasindan;
     r.aciklama = QStringLiteral("kesin hesap icmal cetveli (TMY-17), --hesap ana hesap");
     r.kagit = [](const RaporSuzgeci&, const SabitSatiri&) { return KesinHesapRaporu::Kagit(); };
     r.yuru = [](Veri& veri, const RaporSuzgeci& s, const QString&, const SabitSatiri& sabit,

@@ -18,6 +18,8 @@ struct RaporTanimi
     QString ad;        // the command word: "defter", ...
     QString hangiler;  // the Hangi values it takes ("TD"); empty: none
     QString aciklama;  // one line for --help
+    // The dates its screen opens with for the working year and Hangi.
+    std::function<RaporSuzgeci(const QString& calisYil, const QString& hangi)> acilis = RaporSuzgecleri::Acilis;
     double yaziBoy = 8.5;
     int yon = 2;       // 1 portrait, 2 landscape
     // The paper, with the signatures of the constants where it has them.

@@ -34,7 +34,7 @@ Dayanak2::Dayanak2(const CalismaBaglami& baglam, QWidget* parent) : RaporEkrani(
     y->addWidget(UniteAd1);
     PaneleEkle(g);
     Command3->setText(QStringLiteral("F5_ Yeniden Liste"));
-    connect(UniteAd1, &QComboBox::activated, this, &Dayanak2::Rapor);
+    connect(UniteAd1, &QComboBox::activated, this, &Dayanak2::Toplu);
 
     // The units as the table holds them, an empty or repeated name once.
     Dene([&] {
@@ -47,7 +47,7 @@ Dayanak2::Dayanak2(const CalismaBaglami& baglam, QWidget* parent) : RaporEkrani(
     });
 }
 
-void Dayanak2::Rapor()
+void Dayanak2::Toplu()
 {
     const QString ad = UniteAd1->currentText();
     if (ad.trimmed().isEmpty() || Yuruyor())
@@ -78,5 +78,5 @@ QStringList Dayanak2::Etiketler() const
 
 void Dayanak2::Command3Calistir()
 {
-    Rapor();
+    Toplu();
 }

@@ -19,7 +19,7 @@ public:
     explicit Dayanak2(const CalismaBaglami& baglam, QWidget* parent = nullptr);
 
     // The list of the unit chosen in UniteAd1.
-    void Rapor();
+    void Toplu() override;
 
 protected:
     RaporKagidi Kagit() const override;

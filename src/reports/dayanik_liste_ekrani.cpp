@@ -8,9 +8,7 @@
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFocusEvent>
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -41,33 +39,13 @@ DayanikListe::DayanikListe(const CalismaBaglami& baglam, QWidget* parent)
     baslik->addStretch();
     UsteEkle(ust);
 
-    const auto cerceve = [this](const QString& ad) {
-        auto* g = new QGroupBox(ad, this);
-        new QVBoxLayout(g);
-        PaneleEkle(g);
-        return g;
-    };
-    const auto tarih = [&](TarihSecici*& kutu, const char* ad, const QString& baslik) {
-        QGroupBox* g = cerceve(baslik);
-        kutu = Adli(new TarihSecici(g), ad);
-        kutu->installEventFilter(this);
-        g->layout()->addWidget(kutu);
-        connect(kutu, &TarihSecici::editingFinished, this, [this] {
-            if (std::pair(Tarih->date(), Tarih1->date()) != m_tarihler)
-                Toplu();
-        });
-    };
-    tarih(Tarih, "Tarih", QStringLiteral("Başlama Tarihi"));
-    tarih(Tarih1, "Tarih1", QStringLiteral("Bitiş Tarihi"));
+    TarihleriKur();
     const auto kutu = [&](QComboBox*& k, const char* ad, const QString& baslik) {
-        QGroupBox* g = cerceve(baslik);
-        k = YazilirKutu(g, QString::fromLatin1(ad));
-        k->installEventFilter(this);
-        g->layout()->addWidget(k);
+        k = SecimKutusu(Cerceve(baslik), ad);
     };
     kutu(UniteAd1, "UniteAd1", QStringLiteral("Ünite Seçim"));
     kutu(HesapNo4, "HesapNo4", QStringLiteral("Tek Malzeme Listeleme"));
-    QGroupBox* ambar = cerceve(QStringLiteral("Ambar No"));
+    QGroupBox* ambar = Cerceve(QStringLiteral("Ambar No"));
     AmbarNo = Adli(new QLineEdit(ambar), "AmbarNo");
     Check2 = Adli(new QCheckBox(QStringLiteral("Tüm Ambarlar"), ambar), "Check2");
     ambar->layout()->addWidget(AmbarNo);
@@ -133,7 +111,7 @@ void DayanikListe::Toplu()
 {
     if (Yuruyor())
         return;
-    m_tarihler = {Tarih->date(), Tarih1->date()};
+    TarihleriAl();
     const RaporSuzgeci s = Suzgec();
     const QString uniteAd1 = UniteAd1->currentText().trimmed();
     QList<Birim> birimler;
@@ -212,21 +190,3 @@ void DayanikListe::ListeleriDoldur(QComboBox* kutu)
     });
 }
 
-bool DayanikListe::eventFilter(QObject* nesne, QEvent* olay)
-{
-    if ((nesne == Tarih || nesne == Tarih1) && olay->type() == QEvent::KeyPress) {
-        const int tus = static_cast<QKeyEvent*>(olay)->key();
-        if (tus == Qt::Key_Return || tus == Qt::Key_Enter) {
-            Toplu();
-            return true;
-        }
-    }
-    // A box fills its list when the user comes to it, not when a message
-    // or its own list hands the focus back.
-    if (auto* kutu = qobject_cast<QComboBox*>(nesne); kutu && olay->type() == QEvent::FocusIn) {
-        const Qt::FocusReason neden = static_cast<QFocusEvent*>(olay)->reason();
-        if (neden != Qt::ActiveWindowFocusReason && neden != Qt::PopupFocusReason)
-            ListeleriDoldur(kutu);
-    }
-    return RaporEkrani::eventFilter(nesne, olay);
-}

@@ -31,7 +31,7 @@ public:
     void HangiYaz(const QString& hangi);
     const QString& Hangi() const { return m_hangi; }
     // The walk over the units from the panel's filters.
-    void Toplu();
+    void Toplu() override;
 
 protected:
     RaporKagidi Kagit() const override;
@@ -46,21 +46,17 @@ private:
     // Command16: every filter emptied, the walk from the first unit.
     void YenidenListe();
     // The boxes that fill their lists when they get the focus.
-    void ListeleriDoldur(QComboBox* kutu);
+    void ListeleriDoldur(QComboBox* kutu) override;
 
-    bool eventFilter(QObject* nesne, QEvent* olay) override;
 
     QString m_hangi = QStringLiteral("D");
     // The unit on screen, and the one F5 asked the walk to start from.
     QString m_birimKod;
     QString m_ilkBirim;
     // The dates of the last walk: leaving a date box changed runs a new one.
-    std::pair<QDate, QDate> m_tarihler;
 
     QLabel* BaslikAlani;
     QLabel* FCins2;
-    TarihSecici* Tarih;
-    TarihSecici* Tarih1;
     QComboBox* UniteAd1;
     QComboBox* HesapNo4;
     QLineEdit* AmbarNo;

@@ -1,18 +1,9 @@
 #include "dayanik_liste_kagidi.h"
 
 #include "dayanik_liste.h"
-#include "kayit.h"
+#include "rapor_belgesi.h"
 
 namespace DayanikListesi {
-
-namespace {
-
-QString sagaDaya(QString metin, int genislik)
-{
-    return SagaDaya(metin, genislik);
-}
-
-}
 
 RaporKagidi Kagit(const RaporSuzgeci& s, const QString& hangi)
 {
@@ -20,8 +11,7 @@ RaporKagidi Kagit(const RaporSuzgeci& s, const QString& hangi)
     k.ilkSayac = 8;
     k.sinir = 46;
     k.devam = 5;
-    const QString donem = s.Tarih.toString(QStringLiteral("dd.MM.yyyy")) + QStringLiteral(" -")
-                          + s.Tarih1.toString(QStringLiteral("dd.MM.yyyy"));
+    const QString donem = RaporBelgeleri::Donem(s);
     k.bant = [donem](int) { return KagitSatiri{{1, donem}}; };
     k.ayiricilar = {{{1, QString(106, u'-')}}};
     k.basliklar = {{0, QStringLiteral("Sıra")},
@@ -40,11 +30,11 @@ RaporKagidi Kagit(const RaporSuzgeci& s, const QString& hangi)
         const QString no = h.value(Miktar).isEmpty() ? QString() : QString::number(++sira);
         return KagitSatiri{{0, no.left(4)},
                            {5, h.value(Tarih)},
-                           {16, sagaDaya(h.value(FisNo), 5)},
+                           {16, RaporBelgeleri::Sagda(h.value(FisNo), 5)},
                            {22, h.value(MalzAdi).left(20)},
                            {43, h.value(Ozellik).left(20)},
-                           {63, sagaDaya(h.value(Miktar), 9)},
-                           {73, sagaDaya(h.value(KimeVerildigi), 15)},
+                           {63, RaporBelgeleri::Sagda(h.value(Miktar), 9)},
+                           {73, RaporBelgeleri::Sagda(h.value(KimeVerildigi), 15)},
                            {88, h.value(SicilNo)}};
     };
     return k;
@@ -61,11 +51,11 @@ RaporKagidi Kagit2()
     k.satir = [](const RaporSatiri& satir, int&) -> std::optional<KagitSatiri> {
         const QStringList& h = satir.hucreler;
         return KagitSatiri{{1, h.value(Tarih2)},
-                           {12, sagaDaya(h.value(FisNo2), 5)},
+                           {12, RaporBelgeleri::Sagda(h.value(FisNo2), 5)},
                            {19, h.value(HesapKod2)},
                            {34, h.value(Ozellik2).left(20)},
                            {56, h.value(SicilNo2).left(12)},
-                           {68, sagaDaya(h.value(Miktar2), 9)},
+                           {68, RaporBelgeleri::Sagda(h.value(Miktar2), 9)},
                            {82, h.value(KimeVerildigi2).left(24)}};
     };
     return k;

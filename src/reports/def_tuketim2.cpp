@@ -8,9 +8,7 @@
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFocusEvent>
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -46,52 +44,29 @@ DefTuketim2::DefTuketim2(const CalismaBaglami& baglam, QWidget* parent)
     baslik->addStretch();
     UsteEkle(ust);
 
-    const auto cerceve = [this](const QString& ad) {
-        auto* g = new QGroupBox(ad, this);
-        new QVBoxLayout(g);
-        PaneleEkle(g);
-        return g;
-    };
-    const auto tarih = [&](TarihSecici*& kutu, const char* ad, const QString& baslik) {
-        QGroupBox* g = cerceve(baslik);
-        kutu = Adli(new TarihSecici(g), ad);
-        kutu->installEventFilter(this);
-        g->layout()->addWidget(kutu);
-        // Toplu when a date was changed, not each time the box is left.
-        connect(kutu, &TarihSecici::editingFinished, this, [this] {
-            if (std::pair(Tarih->date(), Tarih1->date()) != m_tarihler)
-                Toplu();
-        });
-    };
-    tarih(Tarih, "Tarih", QStringLiteral("Başlama Tarihi"));
-    tarih(Tarih1, "Tarih1", QStringLiteral("Bitiş Tarihi"));
-
-    const auto kutu = [&](QComboBox*& k, const char* ad, QGroupBox* g) {
-        k = YazilirKutu(g, QString::fromLatin1(ad));
-        k->installEventFilter(this);
-        g->layout()->addWidget(k);
-    };
-    QGroupBox* aralik = cerceve(QStringLiteral("Hesap Kod Aralığı"));
+    TarihleriKur();
+    const auto kutu = [&](QComboBox*& k, const char* ad, QGroupBox* g) { k = SecimKutusu(g, ad); };
+    QGroupBox* aralik = Cerceve(QStringLiteral("Hesap Kod Aralığı"));
     kutu(HesapKod5, "HesapKod5", aralik);
     kutu(HesapKod6, "HesapKod6", aralik);
-    kutu(TekMalzeme, "TekMalzeme", cerceve(QStringLiteral("Tek Malzeme Listeleme")));
-    QGroupBox* ambar = cerceve(QStringLiteral("Ambar No"));
+    kutu(TekMalzeme, "TekMalzeme", Cerceve(QStringLiteral("Tek Malzeme Listeleme")));
+    QGroupBox* ambar = Cerceve(QStringLiteral("Ambar No"));
     AmbarNo = Adli(new QLineEdit(ambar), "AmbarNo");
     Check2 = Adli(new QCheckBox(QStringLiteral("Tüm Ambarlar"), ambar), "Check2");
     ambar->layout()->addWidget(AmbarNo);
     ambar->layout()->addWidget(Check2);
-    kutu(UniteAd, "UniteAd", cerceve(QStringLiteral("Ünite Seçim")));
-    kutu(KimeVerildigi, "KimeVerildigi", cerceve(QStringLiteral("Kime Verildiği")));
-    kutu(Ozellik, "Ozellik", cerceve(QStringLiteral("Özellik")));
+    kutu(UniteAd, "UniteAd", Cerceve(QStringLiteral("Ünite Seçim")));
+    kutu(KimeVerildigi, "KimeVerildigi", Cerceve(QStringLiteral("Kime Verildiği")));
+    kutu(Ozellik, "Ozellik", Cerceve(QStringLiteral("Özellik")));
     Check1 = Adli(new QCheckBox(QStringLiteral("Boşları Gösterme"), this), "Check1");
     PaneleEkle(Check1);
-    QGroupBox* kdv = cerceve(QStringLiteral("KDV"));
+    QGroupBox* kdv = Cerceve(QStringLiteral("KDV"));
     Option1 = Adli(new QRadioButton(QStringLiteral("Ekle"), kdv), "Option1");
     Option2 = Adli(new QRadioButton(QStringLiteral("Ekleme"), kdv), "Option2");
     Option1->setChecked(true);
     kdv->layout()->addWidget(Option1);
     kdv->layout()->addWidget(Option2);
-    QGroupBox* satir = cerceve(QStringLiteral("Satır Sayı"));
+    QGroupBox* satir = Cerceve(QStringLiteral("Satır Sayı"));
     SatirSayi = Adli(new QLineEdit(QStringLiteral("53"), satir), "SatirSayi");
     SatirSayi->setToolTip(QStringLiteral("45 ile 56 Arası Rakam olmalı."));
     satir->layout()->addWidget(SatirSayi);
@@ -180,7 +155,7 @@ void DefTuketim2::Toplu()
 {
     if (Yuruyor())
         return;
-    m_tarihler = {Tarih->date(), Tarih1->date()};
+    TarihleriAl();
     const RaporSuzgeci s = Suzgec();
     const bool kdvEkle = Option1->isChecked();
     QList<Defter::Sinif> siniflar;
@@ -272,21 +247,3 @@ void DefTuketim2::ListeleriDoldur(QComboBox* kutu)
     });
 }
 
-bool DefTuketim2::eventFilter(QObject* nesne, QEvent* olay)
-{
-    if ((nesne == Tarih || nesne == Tarih1) && olay->type() == QEvent::KeyPress) {
-        const int tus = static_cast<QKeyEvent*>(olay)->key();
-        if (tus == Qt::Key_Return || tus == Qt::Key_Enter) {
-            Toplu();
-            return true;
-        }
-    }
-    // A box fills its list when the user comes to it, not when a message
-    // or its own list hands the focus back.
-    if (auto* kutu = qobject_cast<QComboBox*>(nesne); kutu && olay->type() == QEvent::FocusIn) {
-        const Qt::FocusReason neden = static_cast<QFocusEvent*>(olay)->reason();
-        if (neden != Qt::ActiveWindowFocusReason && neden != Qt::PopupFocusReason)
-            ListeleriDoldur(kutu);
-    }
-    return RaporEkrani::eventFilter(nesne, olay);
-}

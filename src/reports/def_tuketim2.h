@@ -33,7 +33,7 @@ public:
     void HangiYaz(const QString& hangi);
     const QString& Hangi() const { return m_hangi; }
     // The walk over the classes from the panel's filters.
-    void Toplu();
+    void Toplu() override;
 
 protected:
     RaporKagidi Kagit() const override;
@@ -49,22 +49,18 @@ private:
     // Command16: every filter emptied, the walk from the first class.
     void YenidenListe();
     // The boxes that fill their lists when they get the focus.
-    void ListeleriDoldur(QComboBox* kutu);
+    void ListeleriDoldur(QComboBox* kutu) override;
 
-    bool eventFilter(QObject* nesne, QEvent* olay) override;
 
     QString m_hangi = QStringLiteral("T");
     // The class on screen, after which F4 and F5 go on.
     QString m_sinifKod;
     QString m_sonrakiSinif;
     // The dates of the last walk: leaving a date box changed runs a new one.
-    std::pair<QDate, QDate> m_tarihler;
     QList<RaporListeleri::KodAd> m_uniteler;
 
     QLabel* BaslikAlani;
     QLabel* FCins2;
-    TarihSecici* Tarih;
-    TarihSecici* Tarih1;
     QComboBox* HesapKod5;
     QComboBox* HesapKod6;
     QComboBox* TekMalzeme;

@@ -2,16 +2,11 @@
 
 #include "bicim.h"
 #include "defter.h"
-#include "kayit.h"
+#include "rapor_belgesi.h"
 
 namespace Defter {
 
 namespace {
-
-QString sagaDaya(QString metin, int genislik)
-{
-    return SagaDaya(metin, genislik);
-}
 
 bool sifirDegil(const QString& hucre)
 {
@@ -26,8 +21,7 @@ RaporKagidi Kagit(const RaporSuzgeci& s, int satirSayi)
     k.ilkSayac = 8;
     k.sinir = satirSayi;
     k.devam = 4;
-    const QString donem = s.Tarih.toString(QStringLiteral("dd.MM.yyyy")) + QStringLiteral(" -")
-                          + s.Tarih1.toString(QStringLiteral("dd.MM.yyyy"));
+    const QString donem = RaporBelgeleri::Donem(s);
     k.bant = [donem](int sayfaNo) {
         return KagitSatiri{{1, QStringLiteral("GİRİŞ")},
                            {130, donem},
@@ -51,18 +45,18 @@ RaporKagidi Kagit(const RaporSuzgeci& s, int satirSayi)
         const QString no = h.value(SolFiyat).isEmpty() ? QString() : QString::number(++sira);
         return KagitSatiri{{0, no.left(4)},
                            {6, h.value(SolTarih)},
-                           {17, sagaDaya(h.value(SolFisNo), 5)},
+                           {17, RaporBelgeleri::Sagda(h.value(SolFisNo), 5)},
                            {23, h.value(IslemTur).left(9)},
-                           {34, sagaDaya(h.value(SolMiktar), 9)},
-                           {45, sagaDaya(h.value(SolFiyat), 10)},
-                           {56, sagaDaya(h.value(SolTutar), 11)},
+                           {34, RaporBelgeleri::Sagda(h.value(SolMiktar), 9)},
+                           {45, RaporBelgeleri::Sagda(h.value(SolFiyat), 10)},
+                           {56, RaporBelgeleri::Sagda(h.value(SolTutar), 11)},
                            {72, h.value(SagSira)},
                            {76, h.value(SagTarih)},
-                           {86, sagaDaya(h.value(SagFisNo), 5)},
+                           {86, RaporBelgeleri::Sagda(h.value(SagFisNo), 5)},
                            {94, h.value(UniteAd).left(14)},
                            {114, h.value(SagMiktar).left(9)},
-                           {124, sagaDaya(h.value(SagFiyat), 9)},
-                           {136, sagaDaya(h.value(SagTutar), 11)},
+                           {124, RaporBelgeleri::Sagda(h.value(SagFiyat), 9)},
+                           {136, RaporBelgeleri::Sagda(h.value(SagTutar), 11)},
                            {150, h.value(KimeVerildigi).left(20)},
                            {171, h.value(Ozellik).left(20)}};
     };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "rapor_suzgeci.h"
 #include "rapor_tablosu.h"
 #include "sabit_kayit.h"
 
@@ -49,6 +50,13 @@ std::unique_ptr<RaporBelgesi> Xlsx(const QString& dosya);
 // for any other. A PDF is printed on the paper given.
 std::unique_ptr<RaporBelgesi> Dosya(const QString& dosya, const RaporKagidi& kagit, double yaziBoy, int yon,
                                     int& sayfaNo);
+
+// The period as the papers print it: "dd.mm.yyyy -dd.mm.yyyy".
+QString Donem(const RaporSuzgeci& s);
+
+// A cell right-aligned to the width as the papers place amounts (SagaDaya):
+// blank for 0 or empty.
+QString Sagda(QString hucre, int genislik);
 
 // The header block of the statutory forms from the constants of Sabit and
 // the class of the table, at Tab 2, 80 and 106. etiketler are the four

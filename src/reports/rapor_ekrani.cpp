@@ -4,13 +4,18 @@
 #include "kayit.h"
 #include "rapor_belgesi.h"
 #include "sabit_kayit.h"
+#include "tarih_secici.h"
+#include "yazilir_kutu.h"
 
 #include <QAbstractTableModel>
 #include <QApplication>
 #include <QBoxLayout>
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QFocusEvent>
+#include <QKeyEvent>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -154,7 +159,25 @@ RaporEkrani::RaporEkrani(const CalismaBaglami& baglam, const QString& yaziBoyu, 
     TusTanimla(QKeySequence(Qt::Key_F3), [this] { YaziciT(); });
     TusTanimla(QKeySequence(Qt::Key_F5), [this] { Command3Calistir(); });
 
+
     Boyutlandir();
+}
+
+void RaporEkrani::TarihleriKur()
+{
+    const auto tarih = [this](const char* ad, const QString& baslik) {
+        QGroupBox* g = Cerceve(baslik);
+        auto* kutu = Adli(new TarihSecici(g), ad);
+        kutu->installEventFilter(this);
+        g->layout()->addWidget(kutu);
+        connect(kutu, &TarihSecici::editingFinished, this, [this] {
+            if (std::pair(Tarih->date(), Tarih1->date()) != m_tarihler)
+                Toplu();
+        });
+        return kutu;
+    };
+    Tarih = tarih("Tarih", QStringLiteral("Başlama Tarihi"));
+    Tarih1 = tarih("Tarih1", QStringLiteral("Bitiş Tarihi"));
 }
 
 RaporEkrani::~RaporEkrani() = default;
@@ -170,6 +193,29 @@ void RaporEkrani::PaneleEkle(QWidget* w)
     m_panelYerlesimi->insertWidget(m_panelYeri++, w);
     GenislikAyarla();
 }
+
+QGroupBox* RaporEkrani::Cerceve(const QString& baslik)
+{
+    auto* g = new QGroupBox(baslik, this);
+    new QVBoxLayout(g);
+    PaneleEkle(g);
+    return g;
+}
+
+QComboBox* RaporEkrani::SecimKutusu(QGroupBox* cerceve, const char* ad)
+{
+    QComboBox* k = YazilirKutu(cerceve, QString::fromLatin1(ad));
+    k->installEventFilter(this);
+    cerceve->layout()->addWidget(k);
+    return k;
+}
+
+void RaporEkrani::TarihleriAl()
+{
+    m_tarihler = {Tarih->date(), Tarih1->date()};
+}
+
+void RaporEkrani::ListeleriDoldur(QComboBox*) {}
 
 void RaporEkrani::UsteEkle(QWidget* w)
 {
@@ -264,6 +310,20 @@ bool RaporEkrani::eventFilter(QObject* nesne, QEvent* olay)
         || (nesne == FR && olay->type() == QEvent::MouseButtonDblClick)) {
         Boyutlandir();
         return true;
+    }
+    if ((nesne == Tarih || nesne == Tarih1) && olay->type() == QEvent::KeyPress) {
+        const int tus = static_cast<QKeyEvent*>(olay)->key();
+        if (tus == Qt::Key_Return || tus == Qt::Key_Enter) {
+            Toplu();
+            return true;
+        }
+    }
+    // A box fills its list when the user comes to it, not when a message
+    // or its own list hands the focus back.
+    if (auto* kutu = qobject_cast<QComboBox*>(nesne); kutu && olay->type() == QEvent::FocusIn) {
+        const Qt::FocusReason neden = static_cast<QFocusEvent*>(olay)->reason();
+        if (neden != Qt::ActiveWindowFocusReason && neden != Qt::PopupFocusReason)
+            ListeleriDoldur(kutu);
     }
     return KartEkrani::eventFilter(nesne, olay);
 }

@@ -4,9 +4,14 @@
 #include "rapor_tablosu.h"
 #include "sabit_kayit.h"
 
-#include <functional>
+#include <QDate>
 
+#include <functional>
+#include <utility>
+
+class QComboBox;
 class QFrame;
+class QGroupBox;
 class QHBoxLayout;
 class QLabel;
 class QLineEdit;
@@ -16,6 +21,7 @@ class QScrollArea;
 class QTreeView;
 class QVBoxLayout;
 class RaporModeli;
+class TarihSecici;
 
 // What every report screen shares: the list lstRapor on the left with the
 // finished rows of the report, the filter panel FR on the right, the walk
@@ -38,6 +44,10 @@ public:
     const RaporTablosu& Tablo() const { return m_tablo; }
 
 protected:
+    // The report afresh from the panel: run by the dates' Enter and change.
+    virtual void Toplu() = 0;
+    // Fills a box's list when the user comes to it.
+    virtual void ListeleriDoldur(QComboBox* kutu);
     // The paper of the report and the labels of its header block.
     virtual RaporKagidi Kagit() const = 0;
     virtual QStringList Etiketler() const { return {}; }
@@ -63,6 +73,16 @@ protected:
     // A control of the screen on the panel, under the ones before and above
     // the paper's.
     void PaneleEkle(QWidget* w);
+    // A titled frame on the panel, its controls one under the other.
+    QGroupBox* Cerceve(const QString& baslik);
+    // A box in the frame that the user types in or chooses from; its list is
+    // filled when the user comes to it.
+    QComboBox* SecimKutusu(QGroupBox* cerceve, const char* ad);
+    // The period, "Başlama Tarihi" and "Bitiş Tarihi", on the panel.
+    void TarihleriKur();
+    // Toplu keeps the dates it ran with: leaving a date runs it again only
+    // when the date was changed.
+    void TarihleriAl();
     // Above the list, for the screen's title.
     void UsteEkle(QWidget* w);
     // A button of the screen in the row at the foot, after the ones before.
@@ -75,6 +95,8 @@ protected:
     void closeEvent(QCloseEvent* olay) override;
     bool eventFilter(QObject* nesne, QEvent* olay) override;
 
+    TarihSecici* Tarih = nullptr;
+    TarihSecici* Tarih1 = nullptr;
     QFrame* FR;
     QLabel* Boyut;
     QTreeView* lstRapor;
@@ -105,6 +127,7 @@ private:
     int m_panelYeri = 0;
     QHBoxLayout* m_dugmeler;
     int m_dugmeYeri = 1;
+    std::pair<QDate, QDate> m_tarihler;
     bool m_genis = false;
     bool m_yuruyor = false;
     bool m_durdur = false;

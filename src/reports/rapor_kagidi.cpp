@@ -1,6 +1,7 @@
 #include "rapor_belgesi.h"
 
 #include "cikti.h"
+#include "kayit.h"
 #include "sayfa.h"
 #include "yazici.h"
 
@@ -174,6 +175,17 @@ std::unique_ptr<RaporBelgesi> Pdf(const QString& dosya, const RaporKagidi& kagit
                                   int& sayfaNo)
 {
     return std::make_unique<PdfBelgesi>(dosya, kagit, yaziBoy, yon, sayfaNo);
+}
+
+QString Donem(const RaporSuzgeci& s)
+{
+    return s.Tarih.toString(QStringLiteral("dd.MM.yyyy")) + QStringLiteral(" -")
+           + s.Tarih1.toString(QStringLiteral("dd.MM.yyyy"));
+}
+
+QString Sagda(QString hucre, int genislik)
+{
+    return SagaDaya(hucre, genislik);
 }
 
 QList<KagitSatiri> UstBilgi(const SabitSatiri& sabit, const RaporTablosu& tablo, const QStringList& etiketler)

@@ -9,9 +9,7 @@
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFocusEvent>
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -28,41 +26,19 @@ QString kodu(const QComboBox* kutu)
 SayimTutanak::SayimTutanak(const CalismaBaglami& baglam, QWidget* parent)
     : RaporEkrani(baglam, QStringLiteral("8.5"), parent)
 {
-    const auto cerceve = [this](const QString& ad) {
-        auto* g = new QGroupBox(ad, this);
-        new QVBoxLayout(g);
-        PaneleEkle(g);
-        return g;
-    };
-    const auto tarih = [&](TarihSecici*& kutu, const char* ad, const QString& baslik) {
-        QGroupBox* g = cerceve(baslik);
-        kutu = Adli(new TarihSecici(g), ad);
-        kutu->installEventFilter(this);
-        g->layout()->addWidget(kutu);
-        connect(kutu, &TarihSecici::editingFinished, this, [this] {
-            if (std::pair(Tarih->date(), Tarih1->date()) != m_tarihler)
-                Toplu();
-        });
-    };
-    tarih(Tarih, "Tarih", QStringLiteral("Başlama Tarihi"));
-    tarih(Tarih1, "Tarih1", QStringLiteral("Bitiş Tarihi"));
-
-    const auto kutu = [&](QComboBox*& k, const char* ad, QGroupBox* g) {
-        k = YazilirKutu(g, QString::fromLatin1(ad));
-        k->installEventFilter(this);
-        g->layout()->addWidget(k);
-    };
-    QGroupBox* aralik = cerceve(QStringLiteral("Hesap Kod Aralığı"));
+    TarihleriKur();
+    const auto kutu = [&](QComboBox*& k, const char* ad, QGroupBox* g) { k = SecimKutusu(g, ad); };
+    QGroupBox* aralik = Cerceve(QStringLiteral("Hesap Kod Aralığı"));
     kutu(HesapKod5, "HesapKod5", aralik);
     kutu(HesapKod6, "HesapKod6", aralik);
-    kutu(TekMalzeme, "TekMalzeme", cerceve(QStringLiteral("Tek Malzeme Listeleme")));
-    QGroupBox* ambar = cerceve(QStringLiteral("Ambar No"));
+    kutu(TekMalzeme, "TekMalzeme", Cerceve(QStringLiteral("Tek Malzeme Listeleme")));
+    QGroupBox* ambar = Cerceve(QStringLiteral("Ambar No"));
     AmbarNo = Adli(new QLineEdit(ambar), "AmbarNo");
     Check2 = Adli(new QCheckBox(QStringLiteral("Tüm Ambarlar"), ambar), "Check2");
     ambar->layout()->addWidget(AmbarNo);
     ambar->layout()->addWidget(Check2);
-    kutu(UniteAd, "UniteAd", cerceve(QStringLiteral("Ünite Seçim")));
-    kutu(KimeVerildigi, "KimeVerildigi", cerceve(QStringLiteral("Kime Verildiği")));
+    kutu(UniteAd, "UniteAd", Cerceve(QStringLiteral("Ünite Seçim")));
+    kutu(KimeVerildigi, "KimeVerildigi", Cerceve(QStringLiteral("Kime Verildiği")));
 
     Command3->setText(QStringLiteral("F5_ Son Sınıf"));
     Command16 = Dugme("Command16", QStringLiteral("Yeniden Liste"));
@@ -125,7 +101,7 @@ RaporSuzgeci SayimTutanak::Suzgec() const
 
 void SayimTutanak::Toplu()
 {
-    m_tarihler = {Tarih->date(), Tarih1->date()};
+    TarihleriAl();
     RaporTablosu t;
     if (!Dene([&] { t = SayimTutanagi::Tablo(Ayniyat(), Genel(), Suzgec(), m_sinif); }))
         return;
@@ -186,21 +162,3 @@ void SayimTutanak::ListeleriDoldur(QComboBox* kutu)
     });
 }
 
-bool SayimTutanak::eventFilter(QObject* nesne, QEvent* olay)
-{
-    if ((nesne == Tarih || nesne == Tarih1) && olay->type() == QEvent::KeyPress) {
-        const int tus = static_cast<QKeyEvent*>(olay)->key();
-        if (tus == Qt::Key_Return || tus == Qt::Key_Enter) {
-            Toplu();
-            return true;
-        }
-    }
-    // A box fills its list when the user comes to it, not when a message
-    // or its own list hands the focus back.
-    if (auto* kutu = qobject_cast<QComboBox*>(nesne); kutu && olay->type() == QEvent::FocusIn) {
-        const Qt::FocusReason neden = static_cast<QFocusEvent*>(olay)->reason();
-        if (neden != Qt::ActiveWindowFocusReason && neden != Qt::PopupFocusReason)
-            ListeleriDoldur(kutu);
-    }
-    return RaporEkrani::eventFilter(nesne, olay);
-}

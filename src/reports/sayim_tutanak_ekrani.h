@@ -31,7 +31,7 @@ public:
     // menu's "D" runs from 01.01.1900), then the list.
     void HangiYaz(const QString& hangi);
     // The list from the panel's filters.
-    void Toplu();
+    void Toplu() override;
 
 protected:
     RaporKagidi Kagit() const override;
@@ -44,19 +44,15 @@ private:
     // Command16: every filter emptied, the list of all classes again.
     void YenidenListe();
     // The boxes that fill their lists when they get the focus.
-    void ListeleriDoldur(QComboBox* kutu);
+    void ListeleriDoldur(QComboBox* kutu) override;
 
-    bool eventFilter(QObject* nesne, QEvent* olay) override;
 
     QString m_hangi = QStringLiteral("D");
     // F5's class, kept until Command16.
     QString m_sinif;
     // The dates of the last list: leaving a date box changed runs a new one.
-    std::pair<QDate, QDate> m_tarihler;
     QList<RaporListeleri::KodAd> m_uniteler;
 
-    TarihSecici* Tarih;
-    TarihSecici* Tarih1;
     QComboBox* HesapKod5;
     QComboBox* HesapKod6;
     QComboBox* TekMalzeme;

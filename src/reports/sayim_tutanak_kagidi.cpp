@@ -1,18 +1,9 @@
 #include "sayim_tutanak_kagidi.h"
 
-#include "kayit.h"
+#include "rapor_belgesi.h"
 #include "sayim_tutanak.h"
 
 namespace SayimTutanagi {
-
-namespace {
-
-QString sagaDaya(QString metin, int genislik)
-{
-    return SagaDaya(metin, genislik);
-}
-
-}
 
 RaporKagidi Kagit(const RaporSuzgeci& s, const SabitSatiri& sabit)
 {
@@ -20,8 +11,7 @@ RaporKagidi Kagit(const RaporSuzgeci& s, const SabitSatiri& sabit)
     k.ilkSayac = 8;
     k.sinir = 46;
     k.devam = 5;
-    const QString donem = s.Tarih.toString(QStringLiteral("dd.MM.yyyy")) + QStringLiteral(" -")
-                          + s.Tarih1.toString(QStringLiteral("dd.MM.yyyy"));
+    const QString donem = RaporBelgeleri::Donem(s);
     const QList<BasSatiri> ayiricilar = {{{{1, QString(106, u'-')}}, false}, {{{78, QString(138, u'-')}}, false}};
     // The band stands on the first page only.
     k.ilkBas = {{{{1, QStringLiteral("GİRİŞ")}, {130, donem}, {166, QStringLiteral("ÇIKIŞ")}}, false}};
@@ -65,12 +55,12 @@ RaporKagidi Kagit(const RaporSuzgeci& s, const SabitSatiri& sabit)
         return KagitSatiri{{0, h.value(HesapKod)},
                            {15, h.value(MalzAdi).left(20)},
                            {36, h.value(Birimi).left(7)},
-                           {44, sagaDaya(h.value(Kayitlara), 9)},
-                           {60, sagaDaya(h.value(Ambardaki), 10)},
-                           {70, sagaDaya(h.value(Ortak), 11)},
+                           {44, RaporBelgeleri::Sagda(h.value(Kayitlara), 9)},
+                           {60, RaporBelgeleri::Sagda(h.value(Ambardaki), 10)},
+                           {70, RaporBelgeleri::Sagda(h.value(Ortak), 11)},
                            {85, h.value(OrtakKullanim)},
                            {99, h.value(Kisilere)},
-                           {109, sagaDaya(h.value(Fazla), 5)},
+                           {109, RaporBelgeleri::Sagda(h.value(Fazla), 5)},
                            {117, h.value(Noksan).left(10)},
                            {127, h.value(Aciklama).left(12)}};
     };

@@ -2,6 +2,7 @@
 
 #include "fis_degeri.h"
 #include "kayit.h"
+#include "rapor_belgesi.h"
 #include "veritabani.h"
 
 #include <algorithm>
@@ -261,10 +262,7 @@ const QList<RaporSutunu>& Sutunlar()
 KagitSatiri Basilan(const RaporSatiri& satir)
 {
     const QStringList& h = satir.hucreler;
-    const auto sagda = [&](int hucre, int genislik) {
-        QString metin = h.value(hucre);
-        return SagaDaya(metin, genislik);
-    };
+    const auto sagda = [&](int hucre, int genislik) { return RaporBelgeleri::Sagda(h.value(hucre), genislik); };
     return {{0, h.value(Sira)},
             {5, h.value(Kod)},
             {16, h.value(Ad).left(32)},

@@ -8,7 +8,6 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -19,27 +18,9 @@
 YilDevriEkrani::YilDevriEkrani(const CalismaBaglami& baglam, const QString& ilkAd, QWidget* parent)
     : RaporEkrani(baglam, QStringLiteral("8.5"), parent)
 {
-    const auto cerceve = [this](const QString& ad) {
-        auto* g = new QGroupBox(ad, this);
-        new QVBoxLayout(g);
-        PaneleEkle(g);
-        return g;
-    };
-    const auto tarih = [&](TarihSecici*& kutu, const char* ad, const QString& baslik) {
-        QGroupBox* g = cerceve(baslik);
-        kutu = Adli(new TarihSecici(g), ad);
-        kutu->installEventFilter(this);
-        g->layout()->addWidget(kutu);
-        connect(kutu, &TarihSecici::editingFinished, this, [this] {
-            if (std::pair(Tarih->date(), Tarih1->date()) != m_tarihler)
-                Toplu();
-        });
-    };
-    tarih(Tarih, "Tarih", QStringLiteral("Başlama Tarihi"));
-    tarih(Tarih1, "Tarih1", QStringLiteral("Bitiş Tarihi"));
-
+    TarihleriKur();
     // The main accounts: code above, name below; a click lists that one.
-    QGroupBox* hesaplar = cerceve(QStringLiteral("Ana Hesap"));
+    QGroupBox* hesaplar = Cerceve(QStringLiteral("Ana Hesap"));
     T2 = Adli(new QTableWidget(2, 4, hesaplar), "T2");
     T2->horizontalHeader()->hide();
     T2->verticalHeader()->hide();
@@ -62,7 +43,7 @@ YilDevriEkrani::YilDevriEkrani(const CalismaBaglami& baglam, const QString& ilkA
     connect(T2, &QTableWidget::cellClicked, this, hesapSec);
     connect(T2, &QTableWidget::cellActivated, this, hesapSec);
 
-    QGroupBox* ambar = cerceve(QStringLiteral("Ambar No"));
+    QGroupBox* ambar = Cerceve(QStringLiteral("Ambar No"));
     AmbarNo = Adli(new QLineEdit(ambar), "AmbarNo");
     Check2 = Adli(new QCheckBox(QStringLiteral("Tüm Ambarlar"), ambar), "Check2");
     ambar->layout()->addWidget(AmbarNo);
@@ -74,7 +55,7 @@ YilDevriEkrani::YilDevriEkrani(const CalismaBaglami& baglam, const QString& ilkA
             Toplu();
         }
     });
-    QGroupBox* sayma = cerceve(QStringLiteral("Sıra"));
+    QGroupBox* sayma = Cerceve(QStringLiteral("Sıra"));
     Sayma = Adli(new QLineEdit(sayma), "Sayma");
     Sayma->setReadOnly(true);
     sayma->layout()->addWidget(Sayma);
@@ -103,7 +84,7 @@ RaporSuzgeci YilDevriEkrani::Suzgec() const
 
 void YilDevriEkrani::Toplu()
 {
-    m_tarihler = {Tarih->date(), Tarih1->date()};
+    TarihleriAl();
     Durum(QStringLiteral(" Lütfen Bekleyiniz  ...  "));
     DurumSatiri()->repaint();
     RaporTablosu t;
@@ -135,17 +116,6 @@ void YilDevriEkrani::YenidenListe()
     Toplu();
 }
 
-bool YilDevriEkrani::eventFilter(QObject* nesne, QEvent* olay)
-{
-    if ((nesne == Tarih || nesne == Tarih1) && olay->type() == QEvent::KeyPress) {
-        const int tus = static_cast<QKeyEvent*>(olay)->key();
-        if (tus == Qt::Key_Return || tus == Qt::Key_Enter) {
-            Toplu();
-            return true;
-        }
-    }
-    return RaporEkrani::eventFilter(nesne, olay);
-}
 
 HesapCetveli::HesapCetveli(const CalismaBaglami& baglam, QWidget* parent)
     : YilDevriEkrani(baglam, QStringLiteral("İlkmadde-Malzeme"), parent)

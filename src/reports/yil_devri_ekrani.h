@@ -25,7 +25,7 @@ class YilDevriEkrani : public RaporEkrani
 public:
     // The list from the panel's filters, as the screen is shown and at
     // each change.
-    void Toplu();
+    void Toplu() override;
 
 protected:
     // ilkAd is the name of the first account of T2, which differs between
@@ -39,14 +39,10 @@ private:
     RaporSuzgeci Suzgec() const;
     // Command16: the main account and the store emptied, the list again.
     void YenidenListe();
-    bool eventFilter(QObject* nesne, QEvent* olay) override;
 
     QString m_anaHesap;
     // The dates of the last run: leaving a date box changed runs a new one.
-    std::pair<QDate, QDate> m_tarihler;
 
-    TarihSecici* Tarih;
-    TarihSecici* Tarih1;
     QTableWidget* T2;
     QLineEdit* AmbarNo;
     QCheckBox* Check2;

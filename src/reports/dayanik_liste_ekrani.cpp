@@ -181,12 +181,8 @@ void DayanikListe::ListeleriDoldur(QComboBox* kutu)
     Dene([&] {
         if (kutu == HesapNo4)
             ListeDoldur(HesapNo4, RaporListeleri::Malzemeler(Genel(), m_hangi, HesapNo4->currentText()));
-        else {
-            QStringList adlar;
-            for (const RaporListeleri::KodAd& u : RaporListeleri::Uniteler(Genel()))
-                adlar << u.ad;
-            ListeDoldur(UniteAd1, adlar);
-        }
+        else
+            ListeDoldur(UniteAd1, RaporListeleri::Adlar(RaporListeleri::Uniteler(Genel())));
     });
 }
 

@@ -66,4 +66,25 @@ QStringList Malzemeler(Veritabani& genel, const QString& hangi, const QString& o
     return adlar;
 }
 
+QStringList Adlar(const QList<KodAd>& liste)
+{
+    QStringList adlar;
+    for (const KodAd& k : liste)
+        adlar << k.ad;
+    return adlar;
+}
+
+QStringList KodluAdlar(const QList<KodAd>& liste)
+{
+    QStringList satirlar;
+    for (const KodAd& k : liste)
+        satirlar << k.kod + QStringLiteral("  ") + k.ad;
+    return satirlar;
+}
+
+QString Kodu(const QString& kodluAd)
+{
+    return kodluAd.section(QStringLiteral("  "), 0, 0).trimmed();
+}
+
 }

@@ -31,4 +31,11 @@ QList<KodAd> Uniteler(Veritabani& genel);
 // left out.
 QStringList Malzemeler(Veritabani& genel, const QString& hangi, const QString& onEk);
 
+// The names, for a box that offers names.
+QStringList Adlar(const QList<KodAd>& liste);
+// "kod  ad" lines, for a box that offers codes with their names.
+QStringList KodluAdlar(const QList<KodAd>& liste);
+// The code of such a line: what stands before its name.
+QString Kodu(const QString& kodluAd);
+
 }

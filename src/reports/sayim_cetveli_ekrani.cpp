@@ -7,15 +7,6 @@
 #include <QComboBox>
 #include <QGroupBox>
 
-namespace {
-
-QString kodAd(const RaporListeleri::KodAd& k)
-{
-    return k.kod + QStringLiteral("  ") + k.ad;
-}
-
-}
-
 SayimCetveli::SayimCetveli(const CalismaBaglami& baglam, QWidget* parent)
     : YilDevriEkrani(baglam, QStringLiteral("İlkmadde-Malzeme"), parent)
 {
@@ -26,10 +17,7 @@ SayimCetveli::SayimCetveli(const CalismaBaglami& baglam, QWidget* parent)
     PaneleEkle(tek);
     Dene([&] {
         m_altHesaplar = SayimDokum::AltHesaplar(Genel());
-        QStringList kodlar;
-        for (const RaporListeleri::KodAd& k : m_altHesaplar)
-            kodlar << kodAd(k);
-        ListeDoldur(HesapNo4, kodlar);
+        ListeDoldur(HesapNo4, RaporListeleri::KodluAdlar(m_altHesaplar));
         HesapNo4->setEditText(QString());
     });
     connect(HesapNo4, &QComboBox::activated, this, &SayimCetveli::Toplu);
@@ -40,7 +28,7 @@ RaporTablosu SayimCetveli::Hesapla(const RaporSuzgeci& s, const QString& anaHesa
 {
     QString altHesap;
     for (const RaporListeleri::KodAd& k : m_altHesaplar)
-        if (kodAd(k) == HesapNo4->currentText())
+        if (k.kod == RaporListeleri::Kodu(HesapNo4->currentText()))
             altHesap = k.kod;
     return SayimDokum::Hesapla(Ayniyat(), Genel(), s, anaHesap, altHesap);
 }

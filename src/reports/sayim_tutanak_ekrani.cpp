@@ -13,16 +13,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-namespace {
-
-// A code chosen from the range boxes stands before its name.
-QString kodu(const QComboBox* kutu)
-{
-    return kutu->currentText().section(QStringLiteral("  "), 0, 0).trimmed();
-}
-
-}
-
 SayimTutanak::SayimTutanak(const CalismaBaglami& baglam, QWidget* parent)
     : RaporEkrani(baglam, QStringLiteral("8.5"), parent)
 {
@@ -87,8 +77,8 @@ RaporSuzgeci SayimTutanak::Suzgec() const
     s.Tarih = Tarih->date();
     if (!Tarih1->Bos())
         s.Tarih1 = Tarih1->date();
-    s.HesapKod5 = kodu(HesapKod5);
-    s.HesapKod6 = kodu(HesapKod6);
+    s.HesapKod5 = RaporListeleri::Kodu(HesapKod5->currentText());
+    s.HesapKod6 = RaporListeleri::Kodu(HesapKod6->currentText());
     s.TekMalzeme = TekMalzeme->currentText();
     s.AmbarNo = AmbarNo->text();
     s.TumAmbarlar = Check2->isChecked();
@@ -149,15 +139,9 @@ void SayimTutanak::ListeleriDoldur(QComboBox* kutu)
             ListeDoldur(TekMalzeme, RaporListeleri::Malzemeler(Genel(), m_hangi, TekMalzeme->currentText()));
         else if (kutu == UniteAd) {
             m_uniteler = RaporListeleri::Uniteler(Genel());
-            QStringList adlar;
-            for (const RaporListeleri::KodAd& u : m_uniteler)
-                adlar << u.ad;
-            ListeDoldur(UniteAd, adlar);
+            ListeDoldur(UniteAd, RaporListeleri::Adlar(m_uniteler));
         } else {
-            QStringList kodlar;
-            for (const RaporListeleri::KodAd& k : RaporListeleri::HesapKodlari(Genel(), m_hangi))
-                kodlar << k.kod + QStringLiteral("  ") + k.ad;
-            ListeDoldur(kutu, kodlar);
+            ListeDoldur(kutu, RaporListeleri::KodluAdlar(RaporListeleri::HesapKodlari(Genel(), m_hangi)));
         }
     });
 }

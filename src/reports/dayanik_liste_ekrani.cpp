@@ -97,10 +97,7 @@ void DayanikListe::AcilisTarihleri()
 
 RaporSuzgeci DayanikListe::Suzgec() const
 {
-    RaporSuzgeci s;
-    s.Tarih = Tarih->date();
-    if (!Tarih1->Bos())
-        s.Tarih1 = Tarih1->date();
+    RaporSuzgeci s = Donem();
     s.TekMalzeme = HesapNo4->currentText();
     s.AmbarNo = AmbarNo->text();
     s.TumAmbarlar = Check2->isChecked();

@@ -94,9 +94,7 @@ DefTuketim2::DefTuketim2(const CalismaBaglami& baglam, QWidget* parent)
     connect(Command16, &QPushButton::clicked, this, &DefTuketim2::YenidenListe);
     TusTanimla(QKeySequence(Qt::Key_F4), [this] { Command1Calistir(); });
 
-    const RaporSuzgeci acilis = RaporSuzgecleri::Acilis(Baglam().CalisYil, m_hangi);
-    Tarih->GunYaz(acilis.Tarih);
-    Tarih1->GunYaz(acilis.Tarih1);
+    AcilisTarihleri(m_hangi);
     setWindowTitle(QStringLiteral("Tüketim Malzemeleri Defteri"));
     resize(Piksel(15360), 720);
 }
@@ -106,18 +104,13 @@ void DefTuketim2::HangiYaz(const QString& hangi)
     m_hangi = hangi;
     setWindowTitle(hangi == u"D" ? QStringLiteral("Dayanıklı Malzeme Defteri")
                                  : QStringLiteral("Tüketim Malzemeleri Defteri"));
-    const RaporSuzgeci acilis = RaporSuzgecleri::Acilis(Baglam().CalisYil, hangi);
-    Tarih->GunYaz(acilis.Tarih);
-    Tarih1->GunYaz(acilis.Tarih1);
+    AcilisTarihleri(hangi);
     Toplu();
 }
 
 RaporSuzgeci DefTuketim2::Suzgec() const
 {
-    RaporSuzgeci s;
-    s.Tarih = Tarih->date();
-    if (!Tarih1->Bos())
-        s.Tarih1 = Tarih1->date();
+    RaporSuzgeci s = Donem();
     s.HesapKod5 = RaporListeleri::Kodu(HesapKod5->currentText());
     s.HesapKod6 = RaporListeleri::Kodu(HesapKod6->currentText());
     s.TekMalzeme = TekMalzeme->currentText();

@@ -210,6 +210,22 @@ QComboBox* RaporEkrani::SecimKutusu(QGroupBox* cerceve, const char* ad)
     return k;
 }
 
+void RaporEkrani::AcilisTarihleri(const QString& hangi)
+{
+    const RaporSuzgeci acilis = RaporSuzgecleri::Acilis(Baglam().CalisYil, hangi);
+    Tarih->GunYaz(acilis.Tarih);
+    Tarih1->GunYaz(acilis.Tarih1);
+}
+
+RaporSuzgeci RaporEkrani::Donem() const
+{
+    RaporSuzgeci s;
+    s.Tarih = Tarih->date();
+    if (!Tarih1->Bos())
+        s.Tarih1 = Tarih1->date();
+    return s;
+}
+
 void RaporEkrani::TarihleriAl()
 {
     m_tarihler = {Tarih->date(), Tarih1->date()};

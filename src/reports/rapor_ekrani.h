@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kart_ekrani.h"
+#include "rapor_suzgeci.h"
 #include "rapor_tablosu.h"
 #include "sabit_kayit.h"
 
@@ -80,6 +81,10 @@ protected:
     QComboBox* SecimKutusu(QGroupBox* cerceve, const char* ad);
     // The period, "Başlama Tarihi" and "Bitiş Tarihi", on the panel.
     void TarihleriKur();
+    // The pickers set to the dates the screen opens with for Hangi.
+    void AcilisTarihleri(const QString& hangi);
+    // The panel's period: no upper bound when Tarih1 is blank.
+    RaporSuzgeci Donem() const;
     // Toplu keeps the dates it ran with: leaving a date runs it again only
     // when the date was changed.
     void TarihleriAl();

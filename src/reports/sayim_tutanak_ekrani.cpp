@@ -55,9 +55,7 @@ SayimTutanak::SayimTutanak(const CalismaBaglami& baglam, QWidget* parent)
     connect(Command16, &QPushButton::clicked, this, &SayimTutanak::YenidenListe);
     TusTanimla(QKeySequence(Qt::Key_F2), [this] { YaziciT(); });
 
-    const RaporSuzgeci acilis = RaporSuzgecleri::Acilis(Baglam().CalisYil, m_hangi);
-    Tarih->GunYaz(acilis.Tarih);
-    Tarih1->GunYaz(acilis.Tarih1);
+    AcilisTarihleri(m_hangi);
     setWindowTitle(QStringLiteral("Sayım Tutanağı"));
     resize(Piksel(15360), 720);
 }
@@ -65,18 +63,13 @@ SayimTutanak::SayimTutanak(const CalismaBaglami& baglam, QWidget* parent)
 void SayimTutanak::HangiYaz(const QString& hangi)
 {
     m_hangi = hangi;
-    const RaporSuzgeci acilis = RaporSuzgecleri::Acilis(Baglam().CalisYil, hangi);
-    Tarih->GunYaz(acilis.Tarih);
-    Tarih1->GunYaz(acilis.Tarih1);
+    AcilisTarihleri(hangi);
     Toplu();
 }
 
 RaporSuzgeci SayimTutanak::Suzgec() const
 {
-    RaporSuzgeci s;
-    s.Tarih = Tarih->date();
-    if (!Tarih1->Bos())
-        s.Tarih1 = Tarih1->date();
+    RaporSuzgeci s = Donem();
     s.HesapKod5 = RaporListeleri::Kodu(HesapKod5->currentText());
     s.HesapKod6 = RaporListeleri::Kodu(HesapKod6->currentText());
     s.TekMalzeme = TekMalzeme->currentText();

@@ -73,10 +73,7 @@ YilDevriEkrani::YilDevriEkrani(const CalismaBaglami& baglam, const QString& ilkA
 
 RaporSuzgeci YilDevriEkrani::Suzgec() const
 {
-    RaporSuzgeci s;
-    s.Tarih = Tarih->date();
-    if (!Tarih1->Bos())
-        s.Tarih1 = Tarih1->date();
+    RaporSuzgeci s = Donem();
     s.AmbarNo = AmbarNo->text();
     s.TumAmbarlar = Check2->isChecked();
     return s;

@@ -55,8 +55,6 @@ private:
     QString m_ilkBirim;
     // The dates of the last walk: leaving a date box changed runs a new one.
 
-    QLabel* BaslikAlani;
-    QLabel* FCins2;
     QComboBox* UniteAd1;
     QComboBox* HesapNo4;
     QLineEdit* AmbarNo;

@@ -17,22 +17,7 @@
 DefTuketim2::DefTuketim2(const CalismaBaglami& baglam, QWidget* parent)
     : RaporEkrani(baglam, QStringLiteral("8"), parent)
 {
-    auto* ust = new QWidget(this);
-    auto* baslik = new QHBoxLayout(ust);
-    baslik->setContentsMargins(0, 0, 0, 0);
-    BaslikAlani = Adli(new QLabel(ust), "BaslikAlani");
-    FCins2 = Adli(new QLabel(ust), "FCins2");
-    for (QLabel* e : {BaslikAlani, FCins2}) {
-        QFont yazi = e->font();
-        yazi.setPointSize(14);
-        e->setFont(yazi);
-        QPalette renk = e->palette();
-        renk.setColor(QPalette::WindowText, QColor(255, 0, 0));
-        e->setPalette(renk);
-        baslik->addWidget(e);
-    }
-    baslik->addStretch();
-    UsteEkle(ust);
+    BaslikKur();
 
     TarihleriKur();
     const auto kutu = [&](QComboBox*& k, const char* ad, QGroupBox* g) { k = SecimKutusu(g, ad); };

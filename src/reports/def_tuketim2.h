@@ -59,8 +59,6 @@ private:
     // The dates of the last walk: leaving a date box changed runs a new one.
     QList<RaporListeleri::KodAd> m_uniteler;
 
-    QLabel* BaslikAlani;
-    QLabel* FCins2;
     QComboBox* HesapKod5;
     QComboBox* HesapKod6;
     QComboBox* TekMalzeme;

@@ -163,6 +163,26 @@ RaporEkrani::RaporEkrani(const CalismaBaglami& baglam, const QString& yaziBoyu, 
     Boyutlandir();
 }
 
+void RaporEkrani::BaslikKur()
+{
+    auto* ust = new QWidget(this);
+    auto* baslik = new QHBoxLayout(ust);
+    baslik->setContentsMargins(0, 0, 0, 0);
+    BaslikAlani = Adli(new QLabel(ust), "BaslikAlani");
+    FCins2 = Adli(new QLabel(ust), "FCins2");
+    for (QLabel* e : {BaslikAlani, FCins2}) {
+        QFont yazi = e->font();
+        yazi.setPointSize(14);
+        e->setFont(yazi);
+        QPalette renk = e->palette();
+        renk.setColor(QPalette::WindowText, QColor(255, 0, 0));
+        e->setPalette(renk);
+        baslik->addWidget(e);
+    }
+    baslik->addStretch();
+    UsteEkle(ust);
+}
+
 void RaporEkrani::TarihleriKur()
 {
     const auto tarih = [this](const char* ad, const QString& baslik) {

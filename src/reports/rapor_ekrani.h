@@ -79,6 +79,9 @@ protected:
     // A box in the frame that the user types in or chooses from; its list is
     // filled when the user comes to it.
     QComboBox* SecimKutusu(QGroupBox* cerceve, const char* ad);
+    // The title area above the list, as Baslik draws it: the report's title
+    // and FCins2, the class or unit on screen, at 14 points in red.
+    void BaslikKur();
     // The period, "Başlama Tarihi" and "Bitiş Tarihi", on the panel.
     void TarihleriKur();
     // The pickers set to the dates the screen opens with for Hangi.
@@ -100,6 +103,8 @@ protected:
     void closeEvent(QCloseEvent* olay) override;
     bool eventFilter(QObject* nesne, QEvent* olay) override;
 
+    QLabel* BaslikAlani = nullptr;
+    QLabel* FCins2 = nullptr;
     TarihSecici* Tarih = nullptr;
     TarihSecici* Tarih1 = nullptr;
     QFrame* FR;

@@ -63,13 +63,7 @@ RaporKagidi Kagit2()
 
 const QStringList& Etiketler()
 {
-    static const QStringList etiketler = {
-        QStringLiteral("İl ve İlçenin                  Adı  : "),
-        QStringLiteral("Harcama Biriminin      Adı  : "),
-        QStringLiteral("Ambarın                       Adı  : "),
-        QStringLiteral("Muhasebe Biriminin     Adı  : "),
-        QStringLiteral("  Ölçü Birimi  : "),
-    };
+    static const QStringList etiketler = RaporBelgeleri::Etiketler() + QStringList{QStringLiteral("  Ölçü Birimi  : ")};
     return etiketler;
 }
 

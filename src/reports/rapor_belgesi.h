@@ -58,6 +58,13 @@ QString Donem(const RaporSuzgeci& s);
 // blank for 0 or empty.
 QString Sagda(QString hucre, int genislik);
 
+// The labels of the header block as most forms print them.
+const QStringList& Etiketler();
+
+// The count committee's signatures from the constants: the title, room to
+// sign, the names, their titles.
+QList<KagitSatiri> SayimKurulu(const SabitSatiri& sabit);
+
 // The header block of the statutory forms from the constants of Sabit and
 // the class of the table, at Tab 2, 80 and 106. etiketler are the four
 // labels of the "Adı" column, whose blanks differ from form to form; a

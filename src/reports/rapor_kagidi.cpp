@@ -188,6 +188,28 @@ QString Sagda(QString hucre, int genislik)
     return SagaDaya(hucre, genislik);
 }
 
+const QStringList& Etiketler()
+{
+    static const QStringList etiketler = {
+        QStringLiteral("İl ve İlçenin                  Adı  : "),
+        QStringLiteral("Harcama Biriminin      Adı  : "),
+        QStringLiteral("Ambarın                       Adı  : "),
+        QStringLiteral("Muhasebe Biriminin     Adı  : "),
+    };
+    return etiketler;
+}
+
+QList<KagitSatiri> SayimKurulu(const SabitSatiri& sabit)
+{
+    const auto alan = [&](const char* ad) { return sabit.value(QString::fromLatin1(ad)).trimmed(); };
+    return {{{15, QStringLiteral("S       A       Y       I       M                    K       U       R       U       L       U")}},
+            {},
+            {},
+            {},
+            {{5, alan("SayimBaskan")}, {40, alan("SayimUye1")}, {70, alan("SayimUye2")}},
+            {{5, alan("SayimBaskanUnvan")}, {30, alan("SayimUyeUnvan1")}, {70, alan("SayimUyeUnvan2")}}};
+}
+
 QList<KagitSatiri> UstBilgi(const SabitSatiri& sabit, const RaporTablosu& tablo, const QStringList& etiketler)
 {
     const auto deger = [&](const char* alan) { return sabit.value(QString::fromLatin1(alan)).trimmed(); };

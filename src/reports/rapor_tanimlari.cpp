@@ -178,7 +178,7 @@ RaporTanimi sayimTutanagi()
         // Only the closing row: no class had lines, nothing to count.
         if (t.satirlar.size() < 2)
             return;
-        t.ustBilgi = RaporBelgeleri::UstBilgi(sabit, t, SayimTutanagi::Etiketler());
+        t.ustBilgi = RaporBelgeleri::UstBilgi(sabit, t, RaporBelgeleri::Etiketler());
         her(std::move(t));
     };
     return r;
@@ -198,7 +198,7 @@ RaporTanimi sayimCetveli()
                 const std::function<bool(RaporTablosu&&)>& her) {
         RaporTablosu t = SayimDokum::Hesapla(veri.Ayniyat(), veri.Genel(), s, s.HesapKod5, QString());
         satirliTablo(t, sabit, [](const SabitSatiri& sabit, const RaporTablosu& t) {
-            return RaporBelgeleri::UstBilgi(sabit, t, SayimDokum::Etiketler());
+            return RaporBelgeleri::UstBilgi(sabit, t, RaporBelgeleri::Etiketler());
         }, her);
     };
     return r;

@@ -1,6 +1,7 @@
 #include "sayim_cetveli.h"
 
 #include "kayit.h"
+#include "rapor_belgesi.h"
 #include "veritabani.h"
 #include "yil_devri.h"
 
@@ -129,27 +130,9 @@ RaporKagidi Kagit(const SabitSatiri& sabit)
                  {{75, deger("AyniyatMemuru2")}},
                  {{75, deger("AyniyatMemuru1")}},
                  {},
-                 {},
-                 {{15, QStringLiteral("S       A       Y       I       M                    K       U       R       U"
-                                      "       L       U")}},
-                 {},
-                 {},
-                 {},
-                 {{5, deger("SayimBaskan")}, {40, deger("SayimUye1")}, {70, deger("SayimUye2")}},
-                 {{5, deger("SayimBaskanUnvan")}, {30, deger("SayimUyeUnvan1")}, {70, deger("SayimUyeUnvan2")}},
-                 {{0, QStringLiteral("TMY Örnek. 13")}}};
+                 {}};
+    k.kapanis << RaporBelgeleri::SayimKurulu(sabit) << KagitSatiri{{0, QStringLiteral("TMY Örnek. 13")}};
     return k;
-}
-
-const QStringList& Etiketler()
-{
-    static const QStringList etiketler = {
-        QStringLiteral("İl ve İlçenin                  Adı  : "),
-        QStringLiteral("Harcama Biriminin      Adı  : "),
-        QStringLiteral("Ambarın                       Adı  : "),
-        QStringLiteral("Muhasebe Biriminin     Adı  : "),
-    };
-    return etiketler;
 }
 
 }

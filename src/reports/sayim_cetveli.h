@@ -34,7 +34,5 @@ QList<RaporListeleri::KodAd> AltHesaplar(Veritabani& genel);
 // signatures of the count committee from the constants.
 RaporKagidi Kagit(const SabitSatiri& sabit);
 
-// The labels of the header block.
-const QStringList& Etiketler();
 
 }

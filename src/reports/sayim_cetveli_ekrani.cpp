@@ -1,5 +1,6 @@
 #include "sayim_cetveli_ekrani.h"
 
+#include "rapor_belgesi.h"
 #include "sayim_cetveli.h"
 #include "yazilir_kutu.h"
 
@@ -40,5 +41,5 @@ RaporKagidi SayimCetveli::Kagit() const
 
 QStringList SayimCetveli::Etiketler() const
 {
-    return SayimDokum::Etiketler();
+    return RaporBelgeleri::Etiketler();
 }

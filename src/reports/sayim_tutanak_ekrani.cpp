@@ -1,5 +1,6 @@
 #include "sayim_tutanak_ekrani.h"
 
+#include "rapor_belgesi.h"
 #include "sabit_kayit.h"
 #include "sayim_tutanak.h"
 #include "sayim_tutanak_kagidi.h"
@@ -118,7 +119,7 @@ RaporKagidi SayimTutanak::Kagit() const
 
 QStringList SayimTutanak::Etiketler() const
 {
-    return SayimTutanagi::Etiketler();
+    return RaporBelgeleri::Etiketler();
 }
 
 void SayimTutanak::ListeleriDoldur(QComboBox* kutu)

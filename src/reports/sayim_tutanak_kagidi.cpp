@@ -64,28 +64,9 @@ RaporKagidi Kagit(const RaporSuzgeci& s, const SabitSatiri& sabit)
                            {117, h.value(Noksan).left(10)},
                            {127, h.value(Aciklama).left(12)}};
     };
-    const auto alan = [&](const char* ad) { return sabit.value(QString::fromLatin1(ad)).trimmed(); };
-    k.kapanis = {{},
-                 {{15, QStringLiteral("S       A       Y       I       M                    K       U       R       U       L       U")}},
-                 {},
-                 {},
-                 {},
-                 {{5, alan("SayimBaskan")}, {40, alan("SayimUye1")}, {70, alan("SayimUye2")}},
-                 {{5, alan("SayimBaskanUnvan")}, {30, alan("SayimUyeUnvan1")}, {70, alan("SayimUyeUnvan2")}},
-                 {},
-                 {{1, QStringLiteral("TMY Örnek. 12")}}};
+    k.kapanis = QList<KagitSatiri>{{}} + RaporBelgeleri::SayimKurulu(sabit)
+                + QList<KagitSatiri>{{}, {{1, QStringLiteral("TMY Örnek. 12")}}};
     return k;
-}
-
-const QStringList& Etiketler()
-{
-    static const QStringList etiketler = {
-        QStringLiteral("İl ve İlçenin                  Adı  : "),
-        QStringLiteral("Harcama Biriminin      Adı  : "),
-        QStringLiteral("Ambarın                       Adı  : "),
-        QStringLiteral("Muhasebe Biriminin     Adı  : "),
-    };
-    return etiketler;
 }
 
 }

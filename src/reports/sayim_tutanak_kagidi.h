@@ -14,7 +14,5 @@ namespace SayimTutanagi {
 
 RaporKagidi Kagit(const RaporSuzgeci& s, const SabitSatiri& sabit);
 
-// The labels of the header block, with the frame's own blanks.
-const QStringList& Etiketler();
 
 }

@@ -16,6 +16,7 @@
 #include "tek_deger.h"
 #include "unite_tanim.h"
 #include "veri.h"
+#include "yil_sonu.h"
 #include "yazici.h"
 #include "zimmet_sayfasi.h"
 
@@ -177,6 +178,29 @@ int rapor(Veri& veri, const QStringList& argumanlar, const Komutlar::Secenekler&
     return 0;
 }
 
+// The year-end set into the folder, the steps told as they go.
+int yilSonu(Veri& veri, const Komutlar::Secenekler& secenek)
+{
+    const QString& yil = secenek.yil;
+    if (yil.size() != 4 || !QDate(yil.toInt(), 1, 1).isValid() || secenek.cikti.isEmpty()) {
+        hataYaz(QStringLiteral("Kullanım: tasinir yil-sonu --veri KLASÖR --yil YYYY --cikti KLASÖR"));
+        return 2;
+    }
+    const YilSonu::Sonuc sonuc =
+        YilSonu::Yaz(veri, yil, QDir(secenek.cikti).absolutePath(), [son = 0](const QString& adim, int no, int adimlar) mutable {
+            if (no != son)
+                std::printf("%d / %d  %s\n", no, adimlar, qPrintable(adim));
+            std::fflush(stdout);
+            son = no;
+            return true;
+        });
+    std::printf("Yıl sonu denetiminde %lld bulgu, özette %d fark var.\nYazıldı:\n", qint64(sonuc.bulgular),
+                sonuc.farklar);
+    for (const QString& dosya : sonuc.dosyalar)
+        std::printf("  %s\n", qPrintable(dosya));
+    return 0;
+}
+
 // The sample's forms: the unit list, the pages of an entry voucher of this
 // year that hands durable goods out and of an issue voucher, and the minutes
 // of a write-off of the latest year that has one.
@@ -267,7 +291,8 @@ int Komutlar::Calistir(const QStringList& argumanlar, const QString& klasor, con
         if (komut == QLatin1String("ornek-veri"))
             return ornekVeri(argumanlar, secenek);
         if (komut != QLatin1String("ornek-formlar") && komut != QLatin1String("kod-plani-yukle")
-            && komut != QLatin1String("yazdir") && komut != QLatin1String("rapor")) {
+            && komut != QLatin1String("yazdir") && komut != QLatin1String("rapor")
+            && komut != QLatin1String("yil-sonu")) {
             hataYaz(QStringLiteral("Bilinmeyen komut: %1 (tasinir --help)").arg(komut));
             return 2;
         }
@@ -280,6 +305,8 @@ int Komutlar::Calistir(const QStringList& argumanlar, const QString& klasor, con
             return kodPlani(*veri, argumanlar);
         if (komut == QLatin1String("rapor"))
             return rapor(*veri, argumanlar, secenek);
+        if (komut == QLatin1String("yil-sonu"))
+            return yilSonu(*veri, secenek);
         return yazdir(*veri, argumanlar, secenek);
     } catch (const Hata& h) {
         hataYaz(h.Mesaj());

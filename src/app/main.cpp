@@ -73,13 +73,14 @@ int main(int argc, char* argv[])
                                    QStringLiteral("ornek-formlar: PDF'lerin yazılacağı klasör "
                                                   "(varsayılan: veri klasöründe formlar); "
                                                   "yazdir: yazılacak PDF dosyası; "
-                                                  "rapor: yazılacak PDF, CSV ya da XLSX dosyası."),
+                                                  "rapor: yazılacak PDF, CSV ya da XLSX dosyası; "
+                                                  "yil-sonu: dosyaların yazılacağı klasör."),
                                    QStringLiteral("klasör"));
     const QCommandLineOption no(QStringLiteral("no"), QStringLiteral("yazdir: fiş ya da tutanak numarası."),
                                 QStringLiteral("N"));
     const QCommandLineOption cins(QStringLiteral("cins"), QStringLiteral("yazdir: fiş türü, G (giriş) ya da C (çıkış)."),
                                   QStringLiteral("G|C"));
-    const QCommandLineOption yil(QStringLiteral("yil"), QStringLiteral("yazdir: fişin ya da tutanağın yılı."),
+    const QCommandLineOption yil(QStringLiteral("yil"), QStringLiteral("yazdir: fişin ya da tutanağın yılı; yil-sonu: tabloların yılı."),
                                  QStringLiteral("YYYY"));
     const QCommandLineOption sayfa(QStringLiteral("sayfa"),
                                    QStringLiteral("yazdir: fis (varsayılan), zimmet ya da istek."),
@@ -104,6 +105,7 @@ int main(int argc, char* argv[])
                                                 "yazdir dusum: kayıtlı bir düşüm tutanağını PDF olarak yazar.\n"
                                                 "rapor RAPOR: bir raporu PDF, CSV ya da XLSX olarak yazar "
                                                 "(yalnız \"rapor\" raporları listeler).\n"
+                                                "yil-sonu: yılın denetimini, tablolarını ve özetini yazar.\n"
                                                 "Komut verilmezse program açılır."),
                                  QStringLiteral("[komut]"));
     parser.process(app);

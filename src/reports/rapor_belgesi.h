@@ -42,9 +42,19 @@ std::unique_ptr<RaporBelgesi> Pdf(const QString& dosya, const RaporKagidi& kagit
 // the title and the header block above each table.
 std::unique_ptr<RaporBelgesi> Csv(const QString& dosya);
 
+// A workbook of sheets: the tables added go to the sheet started last.
+class XlsxKitabi : public RaporBelgesi
+{
+public:
+    // Starts the next sheet, named ad (cut to the 31 characters a sheet
+    // name may have); the first table added before any names "Sayfa1".
+    // onde: the sheet shows first when the book is opened.
+    virtual void YeniSayfa(const QString& ad, bool onde = false) = 0;
+};
+
 // The same as an XLSX workbook: amounts as numbers in the Turkish format,
 // texts as texts, the header block on top, the column widths of the list.
-std::unique_ptr<RaporBelgesi> Xlsx(const QString& dosya);
+std::unique_ptr<XlsxKitabi> Xlsx(const QString& dosya);
 
 // The output a file name asks for by its ending (.pdf, .csv, .xlsx); null
 // for any other. A PDF is printed on the paper given.

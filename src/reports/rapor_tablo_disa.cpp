@@ -18,7 +18,8 @@ namespace {
 
 // A spreadsheet document: every table as its title, its header block, its
 // column captions and its rows, one empty row between tables.
-class TabloBelgesi : public RaporBelgesi
+template <typename Taban>
+class TabloBelgesi : public Taban
 {
 public:
     void Ekle(const RaporTablosu& tablo) override
@@ -62,15 +63,13 @@ protected:
 
     KullaniciDosyasi m_dosya;
     QTemporaryFile& m_gecici;
-
-private:
-    bool m_tabloVar = false;
+    bool m_tabloVar = false;  // the next table is not the first of its sheet
 };
 
-class CsvBelgesi : public TabloBelgesi
+class CsvBelgesi : public TabloBelgesi<RaporBelgesi>
 {
 public:
-    explicit CsvBelgesi(const QString& dosya) : TabloBelgesi(dosya)
+    explicit CsvBelgesi(const QString& dosya) : TabloBelgesi<RaporBelgesi>(dosya)
     {
         // The mark tells a Turkish spreadsheet the text is UTF-8, not the
         // code page of the system.
@@ -108,11 +107,11 @@ private:
     qint64 m_yazilan = 0;
 };
 
-class XlsxBelgesi : public TabloBelgesi
+class XlsxBelgesi : public TabloBelgesi<RaporBelgeleri::XlsxKitabi>
 {
 public:
     explicit XlsxBelgesi(const QString& dosya)
-        : TabloBelgesi(dosya), m_adi(QFile::encodeName(m_gecici.fileName())),
+        : TabloBelgesi<RaporBelgeleri::XlsxKitabi>(dosya), m_adi(QFile::encodeName(m_gecici.fileName())),
           m_klasor(QFile::encodeName(QFileInfo(dosya).absolutePath()))
     {
         m_gecici.close();
@@ -123,15 +122,33 @@ public:
         secenekler.constant_memory = LXW_TRUE;
         secenekler.tmpdir = m_klasor.data();
         m_kitap.reset(workbook_new_opt(m_adi.constData(), &secenekler));
-        m_sayfa = m_kitap ? workbook_add_worksheet(m_kitap.get(), nullptr) : nullptr;
-        if (!m_sayfa)
+        if (!m_kitap)
             throw Yazilamadi(u"çalışma kitabı açılamadı"_s);
         m_kalin = workbook_add_format(m_kitap.get());
         format_set_bold(m_kalin);
     }
 
+    void YeniSayfa(const QString& ad, bool onde) override
+    {
+        SutunlariKapat();
+        // A name may not hold []:*?/\ and has at most 31 characters.
+        QString temiz = ad;
+        for (const QChar c : u"[]:*?/\\"_s)
+            temiz.replace(c, u'-');
+        m_sayfa = workbook_add_worksheet(m_kitap.get(), temiz.left(31).toUtf8().constData());
+        if (!m_sayfa)
+            throw Yazilamadi(u"çalışma sayfası eklenemedi: "_s + ad);
+        if (onde)
+            worksheet_activate(m_sayfa);
+        m_satir = 0;
+        m_genislik.clear();
+        m_tabloVar = false;
+    }
+
     void Ekle(const RaporTablosu& tablo) override
     {
+        if (!m_sayfa)
+            YeniSayfa(u"Sayfa1"_s, false);
         if (m_genislik.size() < tablo.sutunlar.size())
             m_genislik.resize(tablo.sutunlar.size());
         for (qsizetype i = 0; i < tablo.sutunlar.size(); ++i)
@@ -186,13 +203,21 @@ private:
         ++m_satir;
     }
 
-    void Kapat() override
+    // The widths of the sheet being written: twips to characters of the
+    // default font, about 120 a character. A column without a width keeps
+    // the default rather than hiding data.
+    void SutunlariKapat()
     {
-        // Twips to characters of the default font, about 120 a character. A
-        // column without a width keeps the default rather than hiding data.
         for (qsizetype i = 0; i < m_genislik.size(); ++i)
             if (m_genislik[i] > 0)
                 Denetle(worksheet_set_column(m_sayfa, lxw_col_t(i), lxw_col_t(i), m_genislik[i] / 120.0, nullptr));
+    }
+
+    void Kapat() override
+    {
+        if (!m_sayfa)
+            YeniSayfa(u"Sayfa1"_s, false);
+        SutunlariKapat();
         Denetle(workbook_close(m_kitap.release()));
     }
 
@@ -228,7 +253,7 @@ std::unique_ptr<RaporBelgesi> Csv(const QString& dosya)
     return std::make_unique<CsvBelgesi>(dosya);
 }
 
-std::unique_ptr<RaporBelgesi> Xlsx(const QString& dosya)
+std::unique_ptr<XlsxKitabi> Xlsx(const QString& dosya)
 {
     return std::make_unique<XlsxBelgesi>(dosya);
 }

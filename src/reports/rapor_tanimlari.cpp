@@ -229,19 +229,21 @@ const RaporTanimi* RaporTanimlari::Bul(const QString& ad)
 }
 
 int RaporTanimlari::Yaz(const RaporTanimi& rapor, Veri& veri, const RaporSuzgeci& s, const QString& hangi,
-                        const QString& dosya)
+                        const QString& dosya, const std::function<bool(const RaporTablosu&)>& yaninda)
 {
     const SabitSatiri sabit = SabitKayit::Getir(veri.Genel()).value_or(SabitSatiri());
     int sayfaNo = 1;
     const std::unique_ptr<RaporBelgesi> belge =
         RaporBelgeleri::Dosya(dosya, rapor.kagit(s, sabit), rapor.yaziBoy, rapor.yon, sayfaNo);
     int tablolar = 0;
+    bool durdu = false;
     rapor.yuru(veri, s, hangi, sabit, [&](RaporTablosu&& tablo) {
         belge->Ekle(tablo);
         ++tablolar;
-        return true;
+        durdu = yaninda && !yaninda(tablo);
+        return !durdu;
     });
-    if (tablolar > 0)
+    if (tablolar > 0 && !durdu)
         belge->Bitir();
-    return tablolar;
+    return durdu ? 0 : tablolar;
 }

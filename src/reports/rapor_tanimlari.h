@@ -39,7 +39,10 @@ const RaporTanimi* Bul(const QString& ad);
 
 // Writes the whole walk of the report into the file, by its ending (.pdf,
 // .csv, .xlsx); the pages numbered from 1. Answers the number of tables
-// written: with none no file is written. Throws Hata.
-int Yaz(const RaporTanimi& rapor, Veri& veri, const RaporSuzgeci& s, const QString& hangi, const QString& dosya);
+// written: with none no file is written. yaninda, where given, gets each
+// table after the file and answers false to stop the walk; a stopped walk
+// writes no file. Throws Hata.
+int Yaz(const RaporTanimi& rapor, Veri& veri, const RaporSuzgeci& s, const QString& hangi, const QString& dosya,
+        const std::function<bool(const RaporTablosu&)>& yaninda = {});
 
 }

@@ -496,7 +496,7 @@ QList<Bulgu> Denetle(Veritabani& ayniyat, Veritabani& genel, const QString& yil)
     return Denetci(ayniyat, genel, yil).Calistir();
 }
 
-RaporTablosu Tablo(const QList<Bulgu>& bulgular, const QString& yil)
+QString Sonucu(Denetim d, qsizetype bulgular)
 {
     static const QString adlar[DenetimSayisi] = {
         QStringLiteral("Eksiye düşen stok"),
@@ -507,6 +507,12 @@ RaporTablosu Tablo(const QList<Bulgu>& bulgular, const QString& yil)
         QStringLiteral("Satırı ya da düşüm kaydı olmayan düşüm işaretleri"),
         QStringLiteral("Tutarı yazıyla yazılamayan fişler"),
     };
+    const QString sonuc = bulgular == 0 ? QStringLiteral("yok") : QStringLiteral("%1 bulgu").arg(bulgular);
+    return QStringLiteral("%1. %2: %3").arg(int(d) + 1).arg(adlar[d], sonuc);
+}
+
+RaporTablosu Tablo(const QList<Bulgu>& bulgular, const QString& yil)
+{
     RaporTablosu t;
     t.baslik = QStringLiteral("YIL SONU DENETİMİ  -  %1").arg(yil);
     t.sutunlar = sutunlar();
@@ -516,9 +522,7 @@ RaporTablosu Tablo(const QList<Bulgu>& bulgular, const QString& yil)
             if (b.denetim == d)
                 satirlar.append(
                     {SatirTuru::Kayit, {b.fis, b.FisNo, b.Tarih, b.Satir, b.HesapKod, b.MalzAdi, b.aciklama}});
-        const QString sonuc =
-            satirlar.isEmpty() ? QStringLiteral("yok") : QStringLiteral("%1 bulgu").arg(satirlar.size());
-        t.satirlar.append({SatirTuru::Baslik, {QStringLiteral("%1. %2: %3").arg(d + 1).arg(adlar[d], sonuc)}});
+        t.satirlar.append({SatirTuru::Baslik, {Sonucu(Denetim(d), satirlar.size())}});
         t.satirlar += satirlar;
     }
     return t;

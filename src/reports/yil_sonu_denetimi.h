@@ -41,6 +41,10 @@ struct Bulgu
 // the order of Denetim. Throws VeriHatasi when the data cannot be read.
 QList<Bulgu> Denetle(Veritabani& ayniyat, Veritabani& genel, const QString& yil);
 
+// The line of a check's outcome: "1. Eksiye düşen stok: yok", or the number
+// of its findings.
+QString Sonucu(Denetim d, qsizetype bulgular);
+
 // The findings as a report: under a heading row per check, which says
 // "yok" when the check found nothing, one row per finding.
 RaporTablosu Tablo(const QList<Bulgu>& bulgular, const QString& yil);

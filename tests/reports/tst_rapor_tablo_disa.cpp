@@ -23,7 +23,9 @@ class TstRaporTabloDisa : public QObject
     }
 
     // Two tables in one document.
-    QString yaz(decltype(&RaporBelgeleri::Csv) belgesi, const QString& ad)
+    using Acan = std::function<std::unique_ptr<RaporBelgesi>(const QString&)>;
+
+    QString yaz(const Acan& belgesi, const QString& ad)
     {
         const auto belge = belgesi(m_klasor.filePath(ad));
         belge->Ekle(tablo());
@@ -34,10 +36,10 @@ class TstRaporTabloDisa : public QObject
 
     // The cells of the sheet by reference: numbers as they stand, texts
     // behind a quote.
-    static QMap<QString, QString> hucreler(const QString& dosya)
+    static QMap<QString, QString> hucreler(const QString& dosya, const QString& sayfa = u"sheet1"_s)
     {
         QProcess unzip;
-        unzip.start(u"unzip"_s, {u"-p"_s, dosya, u"xl/worksheets/sheet1.xml"_s});
+        unzip.start(u"unzip"_s, {u"-p"_s, dosya, u"xl/worksheets/"_s + sayfa + u".xml"_s});
         unzip.waitForFinished();
         QXmlStreamReader xml(unzip.readAllStandardOutput());
         QMap<QString, QString> sonuc;
@@ -76,6 +78,29 @@ private slots:
         QCOMPARE(h.size(), 2 * 12);
     }
 
+    // Each sheet starts at its first row; the name loses the characters a
+    // sheet may not have, and the sheet asked to be in front is the one
+    // the book opens on.
+    void xlsxKitabiSayfaSayfaYazar()
+    {
+        const QString dosya = m_klasor.filePath(u"k.xlsx"_s);
+        const auto kitap = RaporBelgeleri::Xlsx(dosya);
+        kitap->YeniSayfa(u"TMY-13"_s);
+        kitap->Ekle(tablo());
+        kitap->YeniSayfa(u"Özet: 2026/1"_s, true);
+        kitap->Ekle(tablo());
+        kitap->Bitir();
+        QCOMPARE(hucreler(dosya, u"sheet2"_s), hucreler(dosya, u"sheet1"_s));
+        QCOMPARE(hucreler(dosya, u"sheet2"_s).value(u"A1"_s), u"'DAYANIKLI TAŞINIRLAR DEFTERİ"_s);
+        QProcess unzip;
+        unzip.start(u"unzip"_s, {u"-p"_s, dosya, u"xl/workbook.xml"_s});
+        unzip.waitForFinished();
+        const QString kitapXml = QString::fromUtf8(unzip.readAllStandardOutput());
+        QVERIFY(kitapXml.contains(u"name=\"TMY-13\""_s));
+        QVERIFY(kitapXml.contains(u"name=\"Özet- 2026-1\""_s));
+        QVERIFY(kitapXml.contains(u"activeTab=\"1\""_s));
+    }
+
     void yazilamayanBelgeIzBirakmaz()
     {
         QVERIFY_THROWS_EXCEPTION(Hata, RaporBelgeleri::Csv(m_klasor.filePath(u"yok/d.csv"_s)));
@@ -84,7 +109,7 @@ private slots:
         // file was written; the temporary file goes.
         QTemporaryDir klasor;
         QDir(klasor.path()).mkdir(u"d"_s);
-        for (auto belge : {RaporBelgeleri::Csv, RaporBelgeleri::Xlsx}) {
+        for (const Acan& belge : {Acan(RaporBelgeleri::Csv), Acan(RaporBelgeleri::Xlsx)}) {
             auto b = belge(klasor.filePath(u"d"_s));
             b->Ekle(tablo());
             QVERIFY_THROWS_EXCEPTION(Hata, b->Bitir());

@@ -159,18 +159,22 @@ private:
         bool isaretli = false;
     };
     // One stock movement: the class, the day as TarihSayi, the net quantity.
+    // 16 bytes: a million of them are held at once.
     struct Hareket
     {
         std::uint32_t sinif;
-        qint64 gun;
+        std::int32_t gun;
         double miktar;
     };
-    // The cells of a voucher's line that its total reads.
+    // The cells of a voucher's line that its total reads, held for every
+    // line of the year: the three texts in one string, apart by ayrac,
+    // which for the short texts of numbers needs no allocation of its own.
+    static constexpr char ayrac = '\x1f';
     struct TutarSatiri
     {
         std::uint64_t fis;
         qint64 satir, rowid;
-        QString miktar, cikan, fiyat;
+        std::string hucreler;  // Miktar, Cikan, BirimFiyat
     };
 
     QString malzAdi(const QString& kod) const { return m_adlar.value(kod.toCaseFolded()); }
@@ -265,15 +269,18 @@ private:
             // val(NULL) is NULL, which counts as 0 here.
             if (!kod.empty() && sqlite3_column_type(c, sGun) != SQLITE_NULL
                 && sqlite3_column_int64(c, sGun) <= m_yilSonu)
-                m_hareketler.push_back({sinifNo(c), sqlite3_column_int64(c, sGun),
+                m_hareketler.push_back({sinifNo(c), std::int32_t(sqlite3_column_int64(c, sGun)),
                                         sqlite3_column_double(c, sValMiktar) - sqlite3_column_double(c, sValCikan)});
 
             if (buYil && cins == 0 && !kod.empty() && kod.substr(0, 3) != "150") {
                 const std::string_view sicil = kirp(metin(c, sSicilNo));
                 if (sicil.empty())
                     m_bulgular[SicilNo] << satirBulgusu(c, SicilNo, cins, QStringLiteral("Sicil No yok"));
-                else
-                    m_siciller[std::string(sicil)].push_back(satirBulgusu(c, SicilNo, cins, yazi(sicil)));
+                else {
+                    std::string satir(metin(c, sFisNo));
+                    ((((satir += ayrac) += metin(c, sTarih)) += ayrac) += metin(c, sSatir)) += ayrac;
+                    m_siciller[std::string(sicil)].push_back(std::move(satir += kod));
+                }
             }
 
             if (fisVar && !m_basliklar.contains(fisAnahtari(cins, no, yilSayisi(yilMetni)))) {
@@ -315,10 +322,13 @@ private:
                             .arg(yazi(metin(c, sKabulSayi)), yazi(metin(c, sKabulTarih))));
             }
 
-            if (buYil && fisVar)
+            if (buYil && fisVar) {
+                std::string hucreler(metin(c, sMiktar));
+                ((hucreler += ayrac) += metin(c, sCikan)) += ayrac;
+                hucreler += metin(c, sBirimFiyat);
                 m_tutarSatirlari.push_back({fisAnahtari(cins, no, m_yilNo), sqlite3_column_int64(c, sSatir),
-                                            sqlite3_column_int64(c, sRowid), yazi(metin(c, sMiktar)),
-                                            yazi(metin(c, sCikan)), yazi(metin(c, sBirimFiyat))});
+                                            sqlite3_column_int64(c, sRowid), std::move(hucreler)});
+            }
         }
     }
 
@@ -408,22 +418,28 @@ private:
     // A register number on two lines: one finding, at the first line, with
     // the other lines of its voucher in Satır and those of other vouchers
     // named.
+    // An entry line of a register number: FisNo, Tarih, Satir, HesapKod.
+    static QStringList sicilSatiri(const std::string& satir)
+    {
+        return yazi(satir).split(QChar(ayrac));
+    }
+
     void siciller()
     {
         for (const auto& [sicil, satirlar] : m_siciller) {
             if (satirlar.size() < 2)
                 continue;
-            Bulgu b = satirlar.first();
-            QStringList ayni{b.Satir}, diger;
-            for (qsizetype i = 1; i < satirlar.size(); ++i) {
-                const Bulgu& s = satirlar.at(i);
-                if (s.fis == b.fis && s.FisNo == b.FisNo && s.Tarih == b.Tarih)
-                    ayni << s.Satir;
+            const QStringList ilk = sicilSatiri(satirlar.front());
+            QStringList ayni{ilk.at(2)}, diger;
+            for (std::size_t i = 1; i < satirlar.size(); ++i) {
+                const QStringList s = sicilSatiri(satirlar[i]);
+                if (s.at(0) == ilk.at(0) && s.at(1) == ilk.at(1))
+                    ayni << s.at(2);
                 else
-                    diger << QStringLiteral("%1 %2 satır %3").arg(s.fis, s.FisNo, s.Satir);
+                    diger << QStringLiteral("%1 %2 satır %3").arg(cinsler[0], s.at(0), s.at(2));
             }
-            b.Satir = ayni.join(u',');
-            b.aciklama = QStringLiteral("Sicil No %1, %2 satırda").arg(b.aciklama).arg(satirlar.size());
+            Bulgu b{SicilNo, cinsler[0], ilk.at(0), ilk.at(1), ayni.join(u','), ilk.at(3), malzAdi(ilk.at(3)),
+                    QStringLiteral("Sicil No %1, %2 satırda").arg(yazi(sicil)).arg(satirlar.size())};
             if (!diger.isEmpty())
                 b.aciklama += QStringLiteral("; ayrıca ") + diger.join(QStringLiteral(", "));
             m_bulgular[SicilNo] << b;
@@ -452,10 +468,12 @@ private:
             fis.Hangi = cinsler[cins];
             fis.Satirlar.clear();
             for (; s != m_tutarSatirlari.end() && s->fis == anahtar; ++s) {
+                const std::string_view hucreler = s->hucreler;
+                const std::size_t a = hucreler.find(ayrac), b = hucreler.find(ayrac, a + 1);
                 QStringList h(FisSutun::Cikan + 1);
-                h[FisSutun::Miktar] = s->miktar;
-                h[FisSutun::Cikan] = s->cikan;
-                h[FisSutun::BirimFiyat] = s->fiyat;
+                h[FisSutun::Miktar] = yazi(hucreler.substr(0, a));
+                h[FisSutun::Cikan] = yazi(hucreler.substr(a + 1, b - a - 1));
+                h[FisSutun::BirimFiyat] = yazi(hucreler.substr(b + 1));
                 fis.Satirlar << h;
             }
             const auto bas = m_basliklar.find(anahtar);
@@ -484,7 +502,9 @@ private:
     QStringList m_sinifKodlari;
     std::string m_anahtar;
     std::vector<Hareket> m_hareketler;
-    std::unordered_map<std::string, QList<Bulgu>> m_siciller;
+    // The durable entry lines of the year by register number, each as
+    // sicilSatiri reads it: only a number used twice becomes a finding.
+    std::unordered_map<std::string, std::vector<std::string>> m_siciller;
     std::vector<TutarSatiri> m_tutarSatirlari;
     QList<Bulgu> m_bulgular[DenetimSayisi];
 };

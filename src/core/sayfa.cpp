@@ -2,10 +2,12 @@
 
 #include <QFontDatabase>
 #include <QFontMetricsF>
+#include <QHash>
 #include <QPageSize>
 #include <QPainter>
 #include <QPen>
 #include <cmath>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -53,21 +55,49 @@ QString Sayfa::MetinNerede(double x, double y) const
     return yazi ? yazi->metin : QString();
 }
 
-QFont YaziFontu(double punto, bool kalin)
+namespace {
+
+struct YaziTuru
+{
+    QFont font;
+    QFontMetricsF olcu;
+};
+
+// The fonts by pixel size and weight, kept: making a QFont and its metrics
+// costs more than placing the text.
+const YaziTuru& yaziTuru(double punto, bool kalin)
 {
     static const QString aile = AileYukle();
-    QFont font(aile);
-    font.setPixelSize(qMax(1, qRound(punto * 20)));
-    font.setBold(kalin);
-    // Printer text of the old kind: no kerning, outlines as designed.
-    font.setKerning(false);
-    font.setHintingPreference(QFont::PreferNoHinting);
-    return font;
+    thread_local QHash<int, std::shared_ptr<const YaziTuru>> turler;
+    const int boy = qMax(1, qRound(punto * 20));
+    std::shared_ptr<const YaziTuru>& tur = turler[boy * 2 + int(kalin)];
+    if (!tur) {
+        QFont font(aile);
+        font.setPixelSize(boy);
+        font.setBold(kalin);
+        // Printer text of the old kind: no kerning, outlines as designed.
+        font.setKerning(false);
+        font.setHintingPreference(QFont::PreferNoHinting);
+        tur = std::make_shared<const YaziTuru>(YaziTuru{font, QFontMetricsF(font)});
+    }
+    return *tur;
+}
+
+}
+
+QFont YaziFontu(double punto, bool kalin)
+{
+    return yaziTuru(punto, kalin).font;
+}
+
+const QFontMetricsF& YaziOlcusu(double punto, bool kalin)
+{
+    return yaziTuru(punto, kalin).olcu;
 }
 
 SigdirilmisYazi Sigdirilmis(const QString& metin, double punto, double yer, bool kalin)
 {
-    const double genislik = QFontMetricsF(YaziFontu(punto, kalin)).horizontalAdvance(metin);
+    const double genislik = YaziOlcusu(punto, kalin).horizontalAdvance(metin);
     if (genislik <= yer)
         return {metin, punto};
     // Widths grow with the size, which the font takes in whole twips; the
@@ -75,9 +105,9 @@ SigdirilmisYazi Sigdirilmis(const QString& metin, double punto, double yer, bool
     constexpr double noktaTwip = TwipInc / 72;
     const int enKucuk = qRound(EnKucukPunto * noktaTwip);
     int boy = qMax(enKucuk, int(std::floor(punto * noktaTwip * yer / genislik)));
-    while (boy > enKucuk && QFontMetricsF(YaziFontu(boy / noktaTwip, kalin)).horizontalAdvance(metin) > yer)
+    while (boy > enKucuk && YaziOlcusu(boy / noktaTwip, kalin).horizontalAdvance(metin) > yer)
         --boy;
-    const QFontMetricsF olcu(YaziFontu(boy / noktaTwip, kalin));
+    const QFontMetricsF& olcu = YaziOlcusu(boy / noktaTwip, kalin);
     return {olcu.elidedText(metin, Qt::ElideRight, yer), boy / noktaTwip};
 }
 
@@ -102,10 +132,10 @@ void SayfaCiz(QPainter& ressam, const Sayfa& sayfa)
         ressam.drawText(etiket.alan, int(etiket.hiza) | Qt::TextWordWrap, etiket.metin);
     }
     for (const SayfaYazisi& yazi : sayfa.yazilar) {
-        const QFont font = YaziFontu(yazi.punto, yazi.kalin);
-        ressam.setFont(font);
+        const YaziTuru& tur = yaziTuru(yazi.punto, yazi.kalin);
+        ressam.setFont(tur.font);
         ressam.setPen(yazi.renk);
-        ressam.drawText(QPointF(yazi.x, yazi.y + QFontMetricsF(font).ascent()), yazi.metin);
+        ressam.drawText(QPointF(yazi.x, yazi.y + tur.olcu.ascent()), yazi.metin);
     }
     ressam.restore();
 }

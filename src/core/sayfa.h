@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QFontMetricsF>
 #include <QImage>
 #include <QLineF>
 #include <QList>
@@ -86,6 +87,8 @@ using Belge = QList<Sayfa>;
 // The printer font at a size in points. Its pixel size is in twips, which
 // keeps the metrics free of any device's resolution.
 QFont YaziFontu(double punto, bool kalin);
+// Its metrics, made once for each size: pages measure every text they place.
+const QFontMetricsF& YaziOlcusu(double punto, bool kalin);
 
 // A value too wide for its place is set smaller down to this size, and only
 // then cut: smaller letters no longer read on paper.

@@ -3,6 +3,7 @@
 #include "cikti.h"
 
 #include <QFontMetricsF>
+#include <QHash>
 #include <utility>
 
 namespace {
@@ -101,12 +102,18 @@ double Yazici::TextHeight() const
 
 double Yazici::SutunGenisligi() const
 {
-    return OrtalamaGenislik(Olcu());
+    // Kept for each size: every line of a report asks for it.
+    thread_local QHash<int, double> genislikler;
+    const int tur = qRound(FontSize * 20) * 2 + int(FontBold);
+    const auto bulunan = genislikler.constFind(tur);
+    if (bulunan != genislikler.cend())
+        return *bulunan;
+    return genislikler[tur] = OrtalamaGenislik(Olcu());
 }
 
-QFontMetricsF Yazici::Olcu() const
+const QFontMetricsF& Yazici::Olcu() const
 {
-    return QFontMetricsF(YaziFontu(FontSize, FontBold));
+    return YaziOlcusu(FontSize, FontBold);
 }
 
 Cikti& Yazici::Hedef() const

@@ -74,7 +74,7 @@ public:
     double SutunGenisligi() const;
 
 private:
-    QFontMetricsF Olcu() const;
+    const QFontMetricsF& Olcu() const;
     Cikti& Hedef() const;
     Sayfa& AcikSayfa();
     // Closes the page being drawn and goes back to the origin.

@@ -109,7 +109,7 @@ private:
         const double punto = m_p.FontSize;
         const double sutun = m_p.SutunGenisligi();
         const double y = m_p.CurrentY;
-        const double ust = QFontMetricsF(YaziFontu(punto, m_p.FontBold)).ascent();
+        const double ust = YaziOlcusu(punto, m_p.FontBold).ascent();
         for (qsizetype i = 0; i < satir.size(); ++i) {
             const double x = (qMax(satir[i].tab, 1) - 1) * sutun;
             double sag = m_alan.width();
@@ -124,7 +124,7 @@ private:
             m_p.FontSize = s.punto;
             m_p.CurrentX = x;
             // Smaller letters stand on the line's baseline.
-            m_p.CurrentY = y + ust - QFontMetricsF(YaziFontu(s.punto, m_p.FontBold)).ascent();
+            m_p.CurrentY = y + ust - YaziOlcusu(s.punto, m_p.FontBold).ascent();
             m_p.Print({s.metin}, AyniSatir);
         }
         m_p.FontSize = punto;

@@ -9,9 +9,9 @@ namespace {
 
 constexpr double NoktaTwip = TwipInc / 72;
 
-QFontMetricsF Olcu(double punto, bool kalin)
+const QFontMetricsF& Olcu(double punto, bool kalin)
 {
-    return QFontMetricsF(YaziFontu(punto, kalin));
+    return YaziOlcusu(punto, kalin);
 }
 
 QFontMetricsF Olcu(const SayfaYazisi& yazi)

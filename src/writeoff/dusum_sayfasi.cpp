@@ -131,7 +131,7 @@ double VergiY(const DusumEkrani& d)
 // lacks.
 double UstYoneticiAdiY()
 {
-    const QFontMetricsF olcu(YaziFontu(9, false));
+    const QFontMetricsF& olcu = YaziOlcusu(9, false);
     constexpr double pay = 30;
     const double enAlt = Alt - Ciz::CerceveCizgisi / 2 - pay - (olcu.ascent() + olcu.descent()) - ImzaAdimi;
     return std::min(UstYoneticiY, std::floor(enAlt));

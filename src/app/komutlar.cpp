@@ -186,8 +186,9 @@ int yilSonu(Veri& veri, const Komutlar::Secenekler& secenek)
         hataYaz(QStringLiteral("Kullanım: tasinir yil-sonu --veri KLASÖR --yil YYYY --cikti KLASÖR"));
         return 2;
     }
-    const YilSonu::Sonuc sonuc =
-        YilSonu::Yaz(veri, yil, QDir(secenek.cikti).absolutePath(), [son = 0](const QString& adim, int no, int adimlar) mutable {
+    const YilSonu::Sonuc sonuc = YilSonu::Yaz(
+        veri, yil, QDir(secenek.cikti).absolutePath(), YilSonuDenetimi::Denetle(veri.Ayniyat(), veri.Genel(), yil),
+        [son = 0](const QString& adim, int no, int adimlar) mutable {
             if (no != son)
                 std::printf("%d / %d  %s\n", no, adimlar, qPrintable(adim));
             std::fflush(stdout);

@@ -265,7 +265,8 @@ RaporKagidi Kagit()
     return k;
 }
 
-Sonuc Yaz(Veri& veri, const QString& yil, const QString& klasor, const Ilerleme& ilerleme)
+Sonuc Yaz(Veri& veri, const QString& yil, const QString& klasor, const QList<YilSonuDenetimi::Bulgu>& bulgular,
+          const Ilerleme& ilerleme)
 {
     Sonuc sonuc;
     const QDir dizin(klasor);
@@ -279,7 +280,6 @@ Sonuc Yaz(Veri& veri, const QString& yil, const QString& klasor, const Ilerleme&
 
     if (!ilerleme(u"Yıl sonu denetimi"_s, adim, adimlar))
         return {{}, {}, 0, 0, true};
-    const QList<YilSonuDenetimi::Bulgu> bulgular = YilSonuDenetimi::Denetle(veri.Ayniyat(), veri.Genel(), yil);
     sonuc.bulgular = bulgular.size();
     const RaporTablosu denetim = YilSonuDenetimi::Tablo(bulgular, yil);
     const RaporTanimi& denetimRaporu = *RaporTanimlari::Bul(u"yil-sonu-denetimi"_s);

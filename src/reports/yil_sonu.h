@@ -71,11 +71,13 @@ struct Sonuc
 using Ilerleme = std::function<bool(const QString& adim, int no, int adimlar)>;
 
 // Writes the set of the year (four digits) into the folder, which is made
-// when missing: the checks, TMY-13, TMY-15, TMY-17, TMY-12, TMY-8 and both
+// when missing: the findings of the year's checks (YilSonuDenetimi::Denetle),
+// TMY-13, TMY-15, TMY-17, TMY-12, TMY-8 and both
 // ledgers of the year, each table as a PDF and as a sheet of the book, and
 // the summary last, the sheet the book opens on. A table without lines
 // writes no PDF. A check that finds something does not stop the set.
 // Throws Hata when a file cannot be written or the data cannot be read.
-Sonuc Yaz(Veri& veri, const QString& yil, const QString& klasor, const Ilerleme& ilerleme);
+Sonuc Yaz(Veri& veri, const QString& yil, const QString& klasor, const QList<YilSonuDenetimi::Bulgu>& bulgular,
+          const Ilerleme& ilerleme);
 
 }

@@ -23,7 +23,8 @@ class TstYilSonu : public QObject, protected GeciciVeri
 
     YilSonu::Sonuc yaz(const YilSonu::Ilerleme& ilerleme = [](const QString&, int, int) { return true; })
     {
-        return YilSonu::Yaz(veri(), u"2026"_s, cikti(), ilerleme);
+        return YilSonu::Yaz(veri(), u"2026"_s, cikti(),
+                            YilSonuDenetimi::Denetle(veri().Ayniyat(), veri().Genel(), u"2026"_s), ilerleme);
     }
 
     QString cikti() const { return klasor() + u"/yil sonu"_s; }

@@ -21,29 +21,24 @@ class TstDevirTeslim : public QObject, protected GeciciVeri
     Q_OBJECT
 
     void satir(const QString& tarih, const QString& ozellik, const QString& kod, const QString& miktar,
-               const QString& cikan = {}, const QString& fcinss = {}, const QString& birimi = u"ADET"_s, int ambar = 1)
+               const QString& cikan = {}, const QString& fcinss = {}, const QString& birimi = u"ADET"_s)
     {
         veri().Ayniyat().Calistir(u"insert into FIS (Tarih, FisNo, FCins, Satir, Ozellik, HesapKod, Miktar, Cikan, "
-                                  "FCinss, Birimi, AmbarNo) values (?, 1, 'G', 1, ?, ?, ?, ?, ?, ?, ?)"_s,
-                                  {tarih, ozellik, kod, miktar, cikan, fcinss, birimi, ambar});
+                                  "FCinss, Birimi, AmbarNo) values (?, 1, 'G', 1, ?, ?, ?, ?, ?, ?, 1)"_s,
+                                  {tarih, ozellik, kod, miktar, cikan, fcinss, birimi});
     }
 
     // The rows' cells from SubItems(1) on, joined by '|'.
-    static QStringList hucreler(const RaporTablosu& t)
+    template <typename Rapor>
+    QStringList hucreler(Rapor rapor, const RaporSuzgeci& s, bool biteni)
     {
         QStringList l;
-        for (const RaporSatiri& r : t.satirlar)
+        for (const RaporSatiri& r : rapor(veri().Ayniyat(), s, biteni).satirlar)
             l << r.hucreler.mid(1).join(u'|');
         return l;
     }
-    QStringList tutanak(const RaporSuzgeci& s, bool biteni)
-    {
-        return hucreler(DevirTeslimTutanagi::Tablo(veri().Ayniyat(), s, biteni));
-    }
-    QStringList takip(const RaporSuzgeci& s, bool biteni)
-    {
-        return hucreler(DepoTakibi::Tablo(veri().Ayniyat(), s, biteni));
-    }
+    QStringList tutanak(const RaporSuzgeci& s, bool biteni) { return hucreler(DevirTeslimTutanagi::Tablo, s, biteni); }
+    QStringList takip(const RaporSuzgeci& s, bool biteni) { return hucreler(DepoTakibi::Tablo, s, biteni); }
 
     // The panel as the screens open in 2026: the start is overridden.
     static RaporSuzgeci yil2026()
@@ -134,77 +129,55 @@ private slots:
         QVERIFY(QFile::exists(klasor() + u"/d.csv"_s) && !QFile::exists(klasor() + u"/t.csv"_s));
     }
 
-    // The minutes count from 4 and break past 52 (landscape): 49 rows on the
-    // first page, under the line with the period and the two heading lines
-    // ending in the page number. The next page repeats the headings with
-    // page 2, counts from 2. Portrait takes 67 rows on the first page.
-    void tutanakSayfalari()
+    // The papers' pages as texts, a bold one marked '*': `satir` rows whose
+    // cell `hucre` holds the row's number and cell `tutar` an amount.
+    static QList<QStringList> sayfalar(const RaporKagidi& kagit, int yon, int satir, int hucre, int tutar)
     {
         RaporTablosu t;
-        t.baslik = u"BAŞLIK"_s;
         t.ustBilgi = {{{2, u"DÖNEM"_s}}};
-        for (int i = 1; i <= 68; ++i) {
-            QStringList h(DevirTeslimTutanagi::HucreSayisi);
-            h[DevirTeslimTutanagi::Sira] = QString::number(i);
-            h[DevirTeslimTutanagi::SayimMiktari] = u"2,50"_s;
-            t.satirlar << RaporSatiri{SatirTuru::Kayit, h};
-        }
-        const auto sayfalar = [&](int yon, int satir) {
-            BellekCikti cikti;
-            int sayfaNo = 1;
-            RaporTablosu k = t;
-            k.satirlar = t.satirlar.mid(0, satir);
-            auto belge = RaporBelgeleri::Kagit(cikti, DevirTeslimTutanagi::Kagit(yon), 7, yon, sayfaNo);
-            belge->Ekle(k);
-            belge->Bitir();
-            QList<QStringList> l;
-            for (const Sayfa& s : cikti.belgeler.value(0)) {
-                l << QStringList();
-                for (const SayfaYazisi& y : s.yazilar)
-                    l.last() << (y.kalin ? u"*"_s : QString()) + y.metin;
-            }
-            return l;
-        };
-        const QList<QStringList> yatay = sayfalar(2, 50);
-        QCOMPARE(yatay.size(), 2);
-        QCOMPARE(yatay[0].mid(0, 2), (QStringList{u"BAŞLIK"_s, u"DÖNEM"_s}));
-        QCOMPARE(yatay[0].at(9), u"*Noksan    "_s);
-        QCOMPARE(yatay[0].at(17), u"*Miktar          1"_s);
-        // The row: Sıra, the amount right-aligned to 10.
-        QCOMPARE(yatay[0].mid(18, 2), (QStringList{u"1"_s, u"       2,50"_s}));
-        QCOMPARE(yatay[0].mid(yatay[0].size() - 2), (QStringList{u"49"_s, u"       2,50"_s}));
-        QCOMPARE(yatay[1].at(15), u"*Miktar          2"_s);
-        QCOMPARE(yatay[1].mid(16), (QStringList{u"50"_s, u"       2,50"_s}));
-        const QList<QStringList> dikey = sayfalar(1, 68);
-        QCOMPARE(dikey.size(), 2);
-        QCOMPARE(dikey[0].at(dikey[0].size() - 2), u"67"_s);
-        QCOMPARE(dikey[1].at(16), u"68"_s);
-    }
-
-    // Store tracking counts from 8 and breaks past 57: 50 rows, then the
-    // separator and the heading with the next page number (SayfaNo 4, then
-    // 5). The first amount is cut to 7.
-    void takipSayfalari()
-    {
-        RaporTablosu t;
-        for (int i = 1; i <= 51; ++i) {
-            QStringList h(DepoTakibi::HucreSayisi);
-            h[DepoTakibi::HesapKod] = QString::number(i);
-            h[DepoTakibi::Gelen] = u"1.234.567,00"_s;
+        for (int i = 1; i <= satir; ++i) {
+            QStringList h(10);
+            h[hucre] = QString::number(i), h[tutar] = u"1.234.567,50"_s;
             t.satirlar << RaporSatiri{SatirTuru::Kayit, h};
         }
         BellekCikti cikti;
         int sayfaNo = 4;
-        auto belge = RaporBelgeleri::Kagit(cikti, DepoTakibi::Kagit(), 7, 2, sayfaNo);
+        auto belge = RaporBelgeleri::Kagit(cikti, kagit, 7, yon, sayfaNo);
         belge->Ekle(t);
         belge->Bitir();
-        const Belge b = cikti.belgeler.value(0);
-        QCOMPARE(b.size(), 2);
-        QCOMPARE(b[0].yazilar.at(0).metin, QString(126, u'-'));
-        QCOMPARE(b[0].yazilar.at(6).metin, u"Ambarda Kalan             4"_s);
-        QCOMPARE(b[0].yazilar.at(7).metin + b[0].yazilar.at(8).metin, u"11.234.5"_s);
-        QCOMPARE(b[0].yazilar.at(b[0].yazilar.size() - 2).metin, u"50"_s);
-        QCOMPARE(b[1].yazilar.at(6).metin + b[1].yazilar.at(7).metin, u"Ambarda Kalan             551"_s);
+        QList<QStringList> l;
+        for (const Sayfa& s : cikti.belgeler.value(0)) {
+            l << QStringList();
+            for (const SayfaYazisi& y : s.yazilar)
+                l.last() << (y.kalin ? u"*"_s : QString()) + y.metin;
+        }
+        return l;
+    }
+
+    // The minutes count from 4 and break past 52 (landscape): 49 rows under
+    // the period's line and two heading lines ending in SayfaNo; the next
+    // page repeats the headings with the next number and counts from 2.
+    // Portrait takes 67. Store tracking counts from 8 and breaks past 57: 50
+    // rows, then the separator and its heading; its first amount is cut to 7.
+    void sayfaSonu()
+    {
+        using namespace DevirTeslimTutanagi;
+        const QList<QStringList> yatay = sayfalar(Kagit(2), 2, 50, Sira, SayimMiktari);
+        QCOMPARE(yatay.size(), 2);
+        QCOMPARE(yatay[0].mid(0, 1) + yatay[0].mid(4, 1), (QStringList{u"DÖNEM"_s, u"*Ölçü "_s}));
+        QCOMPARE(yatay[0].mid(16, 3), (QStringList{u"*Miktar          4"_s, u"1"_s, u" 1.234.567,50"_s}));
+        QCOMPARE(yatay[0].at(yatay[0].size() - 2), u"49"_s);
+        QCOMPARE(yatay[1].mid(15), (QStringList{u"*Miktar          5"_s, u"50"_s, u" 1.234.567,50"_s}));
+        const QList<QStringList> dikey = sayfalar(Kagit(1), 1, 68, Sira, SayimMiktari);
+        QCOMPARE(dikey[0].at(dikey[0].size() - 2) + u'|' + dikey[1].at(16), u"67|68"_s);
+
+        const QList<QStringList> takip = sayfalar(DepoTakibi::Kagit(), 2, 51, DepoTakibi::HesapKod, DepoTakibi::Gelen);
+        QCOMPARE(takip.size(), 2);
+        QCOMPARE(takip[0].mid(1, 1) + takip[0].mid(7, 3),
+                 (QStringList{QString(126, u'-'), u"*Ambarda Kalan             4"_s, u"1"_s, u"1.234.5"_s}));
+        QCOMPARE(takip[0].at(takip[0].size() - 2), u"50"_s);
+        QCOMPARE(takip[1].mid(0, 1) + takip[1].mid(6),
+                 (QStringList{QString(126, u'-'), u"*Ambarda Kalan             5"_s, u"51"_s, u"1.234.5"_s}));
     }
 };
 

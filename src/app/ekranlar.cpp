@@ -3,6 +3,8 @@
 #include "dayanak2.h"
 #include "dayanik_liste_ekrani.h"
 #include "def_tuketim2.h"
+#include "depo_takip_ekrani.h"
+#include "devir_teslim_ekrani.h"
 #include "dusum.h"
 #include "fis_k.h"
 #include "hesap_k.h"
@@ -95,4 +97,9 @@ void EkranlariTanimla(Menu& menu)
     menu.EkranTanimla(QStringLiteral("Sabit"), tekOrnek<Sabit>([&menu](Sabit& sabit) {
                           QObject::connect(&sabit, &Sabit::CalismaDegisti, &menu, &Menu::CalismaAyarla);
                       }));
+    // Opened without Hangi; each opening lists afresh from 01.01.1900.
+    menu.EkranTanimla(QStringLiteral("DevirTeslim"),
+                      tekOrnek<DevirTeslim>({}, [](DevirTeslim& d, const QVariantMap&) { d.Toplu(); }));
+    menu.EkranTanimla(QStringLiteral("DepoTakip"),
+                      tekOrnek<DepoTakip>({}, [](DepoTakip& d, const QVariantMap&) { d.Toplu(); }));
 }

@@ -406,8 +406,11 @@ void RaporEkrani::YaziciT()
             bitti = true;
         });
         // The pages that did not reach paper are not counted.
-        if (bitti)
+        if (bitti) {
             SayfaNo->setText(QString::number(sayfa));
+            if (!GonderildiMesaji.isEmpty())
+                Bildir(GonderildiMesaji);
+        }
     });
 }
 

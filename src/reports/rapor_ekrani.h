@@ -103,6 +103,9 @@ protected:
     void closeEvent(QCloseEvent* olay) override;
     bool eventFilter(QObject* nesne, QEvent* olay) override;
 
+    // The message shown once the paper has gone out, where the form has one.
+    QString GonderildiMesaji;
+
     QLabel* BaslikAlani = nullptr;
     QLabel* FCins2 = nullptr;
     TarihSecici* Tarih = nullptr;

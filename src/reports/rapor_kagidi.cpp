@@ -79,9 +79,9 @@ private:
             SatirYaz(m_kagit.bant(m_sayfaNo));
         const QList<BasSatiri>& bas = ilk || m_kagit.devamBas.isEmpty() ? m_kagit.ilkBas : m_kagit.devamBas;
         if (!bas.isEmpty()) {
-            for (const BasSatiri& b : bas) {
-                m_p.FontBold = b.kalin;
-                SatirYaz(b.satir);
+            for (qsizetype i = 0; i < bas.size(); ++i) {
+                m_p.FontBold = bas[i].kalin;
+                SatirYaz(i + 1 < bas.size() ? bas[i].satir : SayfaNolu(bas[i].satir));
             }
             m_p.FontBold = false;
             return;
@@ -89,8 +89,16 @@ private:
         for (const KagitSatiri& satir : m_kagit.ayiricilar)
             SatirYaz(satir);
         m_p.FontBold = true;
-        SatirYaz(m_kagit.basliklar);
+        SatirYaz(SayfaNolu(m_kagit.basliklar));
         m_p.FontBold = false;
+    }
+
+    // The last heading line, with the page number where the form prints it.
+    KagitSatiri SayfaNolu(KagitSatiri satir) const
+    {
+        if (m_kagit.sayfaNoBaslikta && !satir.isEmpty())
+            satir.last().metin += QString::number(m_sayfaNo);
+        return satir;
     }
 
     void SonrakiSayfa(int& sayac)

@@ -51,6 +51,11 @@ QList<KodAd> HesapKodlari(Veritabani& genel, const QString& hangi)
                                    + RaporSuzgecleri::SinifAyrimi(hangi) + QStringLiteral("ORDER BY HesapKod")));
 }
 
+QList<KodAd> TumHesapKodlari(Veritabani& genel)
+{
+    return kodAdlar(genel.Satirlar(QStringLiteral("Select HesapKod,MalzAdi from URUN_K ORDER BY HesapKod Asc")));
+}
+
 QList<KodAd> Uniteler(Veritabani& genel)
 {
     return kodAdlar(genel.Satirlar(QStringLiteral("Select UniteKod, UniteAd from Unite_K order by UniteAd COLLATE TR")));

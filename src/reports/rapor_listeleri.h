@@ -23,6 +23,8 @@ QStringList Ozellik(Veritabani& ayniyat, const QString& hangi);
 
 // The side's classes in code order, for the code range.
 QList<KodAd> HesapKodlari(Veritabani& genel, const QString& hangi);
+// Every class of both sides in code order.
+QList<KodAd> TumHesapKodlari(Veritabani& genel);
 
 // The units by name.
 QList<KodAd> Uniteler(Veritabani& genel);

@@ -87,6 +87,9 @@ struct RaporKagidi
     // page of a table, and that of the pages after it (empty: the first's).
     QList<BasSatiri> ilkBas;
     QList<BasSatiri> devamBas;
+    // The page number SayfaNo at the end of a page's last heading line, for
+    // the forms that print it there instead of on a band.
+    bool sayfaNoBaslikta = false;
 };
 
 struct RaporTablosu

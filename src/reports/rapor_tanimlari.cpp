@@ -4,6 +4,10 @@
 #include "dayanik_liste_kagidi.h"
 #include "defter.h"
 #include "defter_kagidi.h"
+#include "depo_takip.h"
+#include "depo_takip_kagidi.h"
+#include "devir_teslim.h"
+#include "devir_teslim_kagidi.h"
 #include "hesap_cetveli.h"
 #include "kesin_hesap.h"
 #include "rapor_belgesi.h"
@@ -204,6 +208,38 @@ RaporTanimi sayimCetveli()
     return r;
 }
 
+// The handover minutes and store tracking as their screens open: from
+// the beginning of the records, the used-up materials left out.
+RaporTanimi ozellikRaporu(const QString& ad, const QString& aciklama,
+                          RaporTablosu (*tablo)(Veritabani&, const RaporSuzgeci&, bool),
+                          const std::function<RaporKagidi(int yon)>& kagit)
+{
+    RaporTanimi r;
+    r.ad = ad;
+    r.aciklama = aciklama;
+    r.kagit = [kagit, yon = r.yon](const RaporSuzgeci&, const SabitSatiri&) { return kagit(yon); };
+    r.yuru = [tablo](Veri& veri, const RaporSuzgeci& s, const QString&, const SabitSatiri&,
+                     const std::function<bool(RaporTablosu&&)>& her) {
+        RaporTablosu t = tablo(veri.Ayniyat(), s, false);
+        if (!t.satirlar.isEmpty())
+            her(std::move(t));
+    };
+    return r;
+}
+
+RaporTanimi devirTeslim()
+{
+    return ozellikRaporu(QStringLiteral("devir-teslim"), QStringLiteral("ambar devir ve teslim tutanağı (TMY-11)"),
+                         DevirTeslimTutanagi::Tablo, DevirTeslimTutanagi::Kagit);
+}
+
+RaporTanimi depoTakip()
+{
+    return ozellikRaporu(QStringLiteral("depo-takip"),
+                         QStringLiteral("depo takip: gelen, çıkan, kullanımda, ambarda kalan"), DepoTakibi::Tablo,
+                         [](int) { return DepoTakibi::Kagit(); });
+}
+
 }
 
 const QList<RaporTanimi>& RaporTanimlari::Hepsi()
@@ -216,7 +252,9 @@ const QList<RaporTanimi>& RaporTanimlari::Hepsi()
                                                  sayimCetveli(),
                                                  hesapCetveli(),
                                                  kesinHesap(),
-                                                 yilSonuDenetimi()};
+                                                 yilSonuDenetimi(),
+                                                 devirTeslim(),
+                                                 depoTakip()};
     return raporlar;
 }
 
